@@ -1,0 +1,83 @@
+#include "ctables/recastor/errorlines.h"
+
+#include "ctables/recastor/messages.h"
+#include "ctables/recastor/printcommand.h"
+#include "ctables/recastor/tbtrtablescommand.h"
+#include "platform/zelkbase/zelkassert.h"
+
+#include <array>
+#include <cstddef>
+
+namespace recastor {
+
+namespace {
+
+/// The messages of ParseError::ErrorID, from kUnclosedLiteral on.
+const auto& TokenErrorTable() {
+    static const std::array<const std::string*, 4> table{
+        &IDS_TOKERR_UNCLOSEDLIT,
+        &IDS_TOKERR_BADEXPONENT,
+        &IDS_TOKERR_INVALIDNUMBER,
+        &IDS_TOKERR_INVALIDCHAR,
+    };
+    return table;
+}
+
+/// The messages of TbTrTablesCommand::ErrorType, from kBadArgument on.
+const auto& ParseErrorTable() {
+    static const std::array<const std::string*, 11> table{
+        &IDS_PTERROR_BADGRAMMAR, &IDS_PTERROR_TOINOBS,   &IDS_PTERROR_SPTABLEEXP,
+        &IDS_PTERROR_YYERROR,    &IDS_PTERROR_UNKFUNC,   &IDS_PTERROR_UNKSORTFUNC,
+        &IDS_PTERROR_BADASSOC,   &IDS_PTERROR_BADFTOTAL, &IDS_PTERROR_BADPTOTAL,
+        &IDS_PTERROR_BADTOTAL,   &IDS_PTERROR_SCALETOT,
+    };
+    return table;
+}
+
+/// Row `number` (1-based) of a table of messages; the program is wrong when there is none.
+template <typename Table>
+const std::string& MessageNumber(const Table& table, int number) {
+    ZELK_ASSERT(number >= 1 && static_cast<std::size_t>(number) <= table.size());
+    return *table[static_cast<std::size_t>(number) - 1];
+}
+
+} // namespace
+
+void GetParseErrorStrings(const ParseError& error, std::string& first, std::string& second) {
+    first.clear();
+    second.clear();
+    if (error.GetErrorID() == ParseError::kNoError) {
+        return;
+    }
+    long line = 0;
+    int column = 0;
+    error.GetLineAndCol(line, column);
+    first = FormatLineAndColumn(IDS_TOKERR_MAIN, line, column);
+    second = MessageNumber(TokenErrorTable(), error.GetErrorID());
+}
+
+void PrintErrorLine(const std::string& text, std::ostream& out) {
+    PrintCommand("***** " + text, out, 0);
+}
+
+void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
+    int line = 0;
+    int column = 0;
+    int keywordCode = 0;
+    std::string argument;
+    const TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
+    const int error = command.GetParseErrorInfo(line, column, keywordCode, argument);
+    if (error == TbTrTablesCommand::kNoError) {
+        return;
+    }
+    // The parser counts columns from 0.
+    PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, line + lineOffset, column + 1), out);
+    if (error == TbTrTablesCommand::kBadArgument) {
+        argument = TbTrTablesCommand::KeywordFromCode(keywordCode);
+    }
+    std::string reason;
+    SCFormatString(reason, MessageNumber(ParseErrorTable(), error), argument);
+    PrintErrorLine(reason, out);
+}
+
+} // namespace recastor

@@ -1,0 +1,17 @@
+// recastor: rewrites the TABLES and IGRAPH commands of a syntax file.
+
+#include "ctables/recastor/commandline.h"
+#include "platform/zelkmb/zelkmb.h"
+
+#include <iostream>
+
+int main(int argc, char* argv[]) {
+    recastor::EnableLocale();
+    std::ios::sync_with_stdio(false);
+    const auto request = recastor::ReadArguments(argc, argv);
+    if (!request) {
+        std::cerr << recastor::Usage(argc > 0 ? argv[0] : "") << '\n';
+        return 1;
+    }
+    return recastor::RunConversion(*request);
+}

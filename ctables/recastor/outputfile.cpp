@@ -1,0 +1,98 @@
+#include "ctables/recastor/outputfile.h"
+
+#include "ctables/recastor/printcommand.h"
+
+#include <fcntl.h>
+#include <string_view>
+#include <unistd.h>
+#include <utility>
+
+namespace recastor {
+
+namespace {
+
+/// Whole lines are written in blocks of about this many bytes.
+constexpr std::size_t kBlockSize = 65536;
+
+} // namespace
+
+LineWriteBuffer::int_type LineWriteBuffer::overflow(int_type c) {
+    if (!traits_type::eq_int_type(c, traits_type::eof())) {
+        const char byte = traits_type::to_char_type(c);
+        xsputn(&byte, 1);
+    }
+    return traits_type::not_eof(c);
+}
+
+std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count) {
+    std::string_view rest(text, static_cast<std::size_t>(count));
+    for (auto lineFeed = rest.find('\n'); lineFeed != std::string_view::npos;
+         lineFeed = rest.find('\n')) {
+        m_line += rest.substr(0, lineFeed);
+        rest.remove_prefix(lineFeed + 1);
+        EndLine();
+    }
+    m_line += rest;
+    return count;
+}
+
+int LineWriteBuffer::sync() {
+    if (m_flushThrough) {
+        WriteBlock();
+    }
+    return 0;
+}
+
+void LineWriteBuffer::EndLine() {
+    if (!IsWSOnly(m_line)) {
+        m_anyLine = true;
+        m_block += m_line;
+        m_block += m_crLf && !m_line.ends_with('\r') ? "\r\n" : "\n";
+        if (m_block.size() >= kBlockSize) {
+            WriteBlock();
+        }
+    }
+    m_line.clear();
+}
+
+void LineWriteBuffer::Finish() {
+    EndLine();
+    if (!m_anyLine) {
+        m_block += m_crLf ? "\r\n" : "\n";
+    }
+    WriteBlock();
+}
+
+void LineWriteBuffer::WriteBlock() {
+    // After a failure nothing more is tried: a file with a hole is worse than a short one.
+    m_failed = m_failed || !m_file.Write(m_block);
+    m_block.clear();
+}
+
+bool OutputFile::Open(const std::string& name, const FileDescriptor& input) {
+    constexpr mode_t kReadAndWriteForAll = 0666; // less the user's umask
+    m_file =
+        FileDescriptor(::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kReadAndWriteForAll));
+    if (!m_file.IsOpen() || m_file.IsSameFileAs(input)) {
+        return false;
+    }
+    m_buffer.FlushThrough(!m_file.IsRegular());
+    return ShareStandardOutput() || m_file.Truncate();
+}
+
+bool OutputFile::ShareStandardOutput() {
+    FileDescriptor standardOutput(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0));
+    if (!m_file.IsRegular() || !standardOutput.IsOpen() || !m_file.IsSameFileAs(standardOutput)) {
+        return false;
+    }
+    m_file = std::move(standardOutput);
+    return true;
+}
+
+bool OutputFile::Close() {
+    m_buffer.Finish();
+    const bool closed = m_file.Close();
+    return closed && !m_buffer.HasFailed();
+}
+
+} // namespace recastor

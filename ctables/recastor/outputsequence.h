@@ -1,0 +1,61 @@
+/// The text builder in which a converted command is put together.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace recastor {
+
+/// A line feed: the text of every line break, explicit or made by the layout.
+extern const std::string NL_STRING;
+
+/// Pieces of text and explicit line breaks in order. Print() lays them out: lines are broken
+/// between pieces only, so what must stay together is made one piece by Fuse(). Lengths are bytes.
+class OutputSequence {
+public:
+    OutputSequence();
+
+    void Clear();
+    bool IsEmpty() const { return m_Sequence.empty(); }
+    /// Appends a piece, with one blank in front when `leadingBlank`.
+    void PushBack(std::string text, bool leadingBlank);
+    void PushBackNewline();
+    /// Appends the pieces of `other`. The current line then begins behind the last line break of
+    /// `other` or, when it has none, with its first piece.
+    void PushBack(const OutputSequence& other);
+    void PushBack(OutputSequence&& other);
+    /// The length of the current line: of the pieces behind the last line break.
+    std::size_t Length() const;
+    /// Makes one piece of the current line; does nothing when that is empty.
+    void Fuse();
+    /// The pieces as text in lines of at most `width` bytes, but for a piece that is longer. Every
+    /// line but the first begins with `indent` blanks; `indent` is below `width`. No line begins
+    /// with a lone comma: the piece before it goes to the new line too.
+    std::string Print(unsigned width, unsigned indent) const;
+
+    /// Appends to `target` the indentation and the text without its leading blanks, and adds both
+    /// lengths to `column`.
+    static void AddWithIndentation(OutputSequence* target, unsigned long* column,
+                                   const std::string& indentation, const std::string& text);
+    /// The text from its first non-blank character on. Only the blank is a blank here.
+    static std::string TrimStringLeft(const std::string& text);
+    /// What stands before the last non-blank character: that one is left off as well, which the
+    /// layout's rule for commas depends on.
+    static std::string TrimStringRight(const std::string& text);
+    static std::string TrimString(const std::string& text);
+
+private:
+    using Piece = std::pair<std::string, bool>; ///< text; whether it is a line break
+
+    void PlacePiece(const Piece& piece, bool isFirst, unsigned width,
+                    const std::string& indentation, unsigned long& column);
+    void CarryLastPieceToNewLine(const std::string& indentation, unsigned long& column);
+    std::size_t CurrentLine() const { return static_cast<std::size_t>(m_lastNewline + 1); }
+
+    std::vector<Piece> m_Sequence;
+    std::int64_t m_lastNewline; ///< index of the last line break; -1 when there is none
+};
+
+} // namespace recastor

@@ -1,0 +1,16 @@
+/// The glue between an IGRAPH command and the chart services.
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+
+namespace recastor {
+
+class ZELKTokenSequence;
+
+/// Converts one IGRAPH command, whose tokens it takes over, and writes the GGRAPH command, or the
+/// reason why there is none, between two comment lines. One line on standard output tells how it
+/// went. `lineOffset` is there for symmetry with ParseTables.
+void ParseIgraph(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset);
+
+} // namespace recastor

@@ -1,0 +1,158 @@
+// The writing of table expressions: dimensions, terms, variables.
+
+#include "ctables/recastor/outputsequence.h"
+#include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/parsetree_lookup.h"
+#include "platform/zelkbase/zelkassert.h"
+
+#include <utility>
+
+namespace recastor {
+
+namespace {
+
+/// Keeps what fits into a line together.
+void FuseShortLine(OutputSequence& sequence) {
+    constexpr std::size_t kLineLength = 79;
+    if (sequence.Length() < kLineLength) {
+        sequence.Fuse();
+    }
+}
+
+/// Writes the operands of a stacking or nesting with their operator between them.
+template <typename ExpressOperand>
+bool ExpressOperation(const TbTrParseNode& operation, bool parenthesised,
+                      const ExpressOperand& expressOperand, OutputSequence& sequence) {
+    const int type = operation.GetNodeType();
+    ZELK_ASSERT(type == SP_PLUS || type == SP_GREATERTHAN);
+    if (parenthesised) {
+        sequence.PushBack("(", false);
+    }
+    for (unsigned i = 0; i < operation.GetChildCount(); ++i) {
+        ZELK_ASSERT(operation.GetChild(i) != nullptr);
+        if (i > 0) {
+            sequence.PushBack(type == SP_PLUS ? "+" : ">", false);
+        }
+        if (!expressOperand(*operation.GetChild(i))) {
+            return false;
+        }
+    }
+    if (parenthesised) {
+        sequence.PushBack(")", false);
+    }
+    return true;
+}
+
+} // namespace
+
+bool ParseTree::ExpressDimension(const TbTrParseNode& expression, int dimension, int statsDimension,
+                                 const TbTrParseNode& expandedDimensions,
+                                 const TbTrParseNode*& firstMagnet, OutputSequence& output) {
+    const TbTrParseNode* table = &expression;
+    while (table->GetNodeType() != TB_TABLE) {
+        table = table->GetParent();
+        ZELK_ASSERT(table != nullptr);
+    }
+    if (dimension != statsDimension) {
+        return ExpressSubExpression(expression, *table, nullptr, 0, dimension, expandedDimensions,
+                                    output);
+    }
+    const auto expressTerm = [&](const TbTrParseNode& term) {
+        const TbTrParseNode* const magnet = DetermineMagnetVariable(term, *table);
+        firstMagnet = firstMagnet == nullptr ? magnet : firstMagnet;
+        return ExpressSubExpression(term, *table, magnet, 0, dimension, expandedDimensions, output);
+    };
+    if (expression.GetNodeType() != SP_PLUS) {
+        return expressTerm(expression);
+    }
+    for (unsigned i = 0; i < expression.GetChildCount(); ++i) {
+        ZELK_ASSERT(expression.GetChild(i) != nullptr);
+        if (i > 0) {
+            output.PushBack("+", false);
+        }
+        if (!expressTerm(*expression.GetChild(i))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool ParseTree::ExpressSubExpression(const TbTrParseNode& expression, const TbTrParseNode& table,
+                                     const TbTrParseNode* magnet, int depth, int dimension,
+                                     const TbTrParseNode& expandedDimensions,
+                                     OutputSequence& output) {
+    OutputSequence sequence;
+    if (expression.GetNodeType() == SP_VARNAME) {
+        if (!ExpressVariableInTable(expression, table, &expression == magnet, dimension,
+                                    expandedDimensions, sequence)) {
+            return false;
+        }
+    } else {
+        const auto expressOperand = [&](const TbTrParseNode& operand) {
+            return ExpressSubExpression(operand, table, magnet, depth + 1, dimension,
+                                        expandedDimensions, sequence);
+        };
+        if (!ExpressOperation(expression, depth > 0, expressOperand, sequence)) {
+            return false;
+        }
+    }
+    FuseShortLine(sequence);
+    output.PushBack(std::move(sequence));
+    return true;
+}
+
+bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTrParseNode& table,
+                                       bool withStatistics, int dimension,
+                                       const TbTrParseNode& expandedDimensions,
+                                       OutputSequence& output) {
+    ZELK_ASSERT(variable.GetNodeType() == SP_VARNAME);
+    const int type = DeclaredType(variable, table);
+    std::string text = WrittenName(TokenOf(variable), type);
+    if (type == TB_OBSERVATION) {
+        text += "[S]";
+    } else if (type == 0) {
+        text += "[C]";
+    }
+    output.PushBack(std::move(text), false);
+    if (!withStatistics) {
+        return true;
+    }
+    OutputSequence statistics;
+    if (!ExpressFunctions(FindSubcommand(table, TB_STATISTICS, false), table, dimension, variable,
+                          expandedDimensions, statistics)) {
+        return false;
+    }
+    if (!statistics.IsEmpty()) {
+        OutputSequence bracketed;
+        bracketed.PushBack("[", false);
+        bracketed.PushBack(std::move(statistics));
+        bracketed.PushBack("]", false);
+        FuseShortLine(bracketed);
+        output.PushBack(std::move(bracketed));
+    }
+    return true;
+}
+
+const TbTrParseNode* ParseTree::DetermineMagnetVariable(const TbTrParseNode& term,
+                                                        const TbTrParseNode& table) {
+    if (term.GetNodeType() == SP_VARNAME) {
+        return &term;
+    }
+    ZELK_ASSERT(term.GetNodeType() == SP_GREATERTHAN);
+    const TbTrParseNode* group = nullptr;
+    const TbTrParseNode* categorical = nullptr;
+    for (unsigned i = term.GetChildCount(); i-- > 0;) {
+        const TbTrParseNode* const variable = term.GetChild(i);
+        ZELK_ASSERT(variable != nullptr && variable->GetNodeType() == SP_VARNAME);
+        const int type = DeclaredType(*variable, table);
+        if (type == TB_OBSERVATION) {
+            return variable;
+        }
+        ZELK_ASSERT(type == 0 || IsGroupType(type));
+        const TbTrParseNode*& innermost = type == 0 ? categorical : group;
+        innermost = innermost == nullptr ? variable : innermost;
+    }
+    return group != nullptr ? group : categorical;
+}
+
+} // namespace recastor

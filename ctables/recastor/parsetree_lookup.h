@@ -1,0 +1,48 @@
+/// Small look-ups that the whole translator shares.
+#pragma once
+
+#include "ctables/recastor/tbtrparsenode.h"
+#include "ctables/recastor/tbtrtablescommand.h"
+
+#include <string>
+
+namespace recastor {
+
+/// The node type of the setting that the command's last global subcommand of type `attribute` has
+/// (TB_ON for AUTOLABEL=ON); 0 without such a subcommand or setting. `node` is any of the command.
+int GetGlobalAttribute(int attribute, const TbTrParseNode& node);
+
+/// Makes the name under which a multiple-response group is written: with "$" in front, cut to 8
+/// bytes. A name that begins with "$" stays as it is.
+void MapGroupVariableName(std::string& name);
+
+bool IsGroupType(int type);
+
+/// The type with which the command declares the variable; 0 for a categorical one.
+int DeclaredType(const TbTrParseNode& variable, const TbTrParseNode& table);
+int DeclaredType(const ZELKToken& name, const TbTrParseNode& table);
+
+/// The text of the variable name, in its own spelling, as it is written: group-mapped when `type`
+/// is a group's.
+std::string WrittenName(const ZELKToken& token, int type);
+
+/// The same with the type that the command declares.
+std::string WrittenNameInTable(const ZELKToken& token, const TbTrParseNode& table);
+
+/// Whether two names are the same, without regard to case.
+bool IsSameName(const ZELKToken& token, const std::string& upperCasedName);
+
+/// The root of the command that the node belongs to.
+const TbTrParseNode& CommandRoot(const TbTrParseNode& node);
+
+/// The command's list of global subcommands; null when there is none. `node` is any node of it.
+const TbTrParseNode* GlobalSubcommands(const TbTrParseNode& node);
+
+/// The node's token, which it must have.
+const ZELKToken& TokenOf(const TbTrParseNode& node);
+
+/// Records an error of the translator at the token, and the token's text for the message.
+void ReportTranslationError(const ZELKToken& token, int subcommand,
+                            TbTrTablesCommand::ErrorType type);
+
+} // namespace recastor

@@ -1,0 +1,260 @@
+// The bracketed statistics list behind a magnet variable.
+
+#include "ctables/recastor/outputsequence.h"
+#include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/parsetree_functions.h"
+#include "ctables/recastor/parsetree_lookup.h"
+#include "ctables/recastor/percentagebase.h"
+#include "platform/zelkbase/zelkassert.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace recastor {
+
+namespace {
+
+/// Sequences that are shorter are kept on one line.
+constexpr std::size_t kLineLength = 79;
+
+struct BaseWord {
+    PercentageBase base;
+    const char* word;
+};
+
+constexpr std::array<BaseWord, 4> gBaseWords{{
+    {TBTR_ROWPCT, "ROWPCT."},
+    {TBTR_COLPCT, "COLPCT."},
+    {TBTR_LAYERPCT, "LAYERPCT."},
+    {TBTR_TABPCT, "TABLEPCT."},
+}};
+
+void FuseShortLine(OutputSequence& sequence) {
+    if (sequence.Length() < kLineLength) {
+        sequence.Fuse();
+    }
+}
+
+/// What the functions are applied to: one operand of the multiplied-out statistics dimension.
+struct Term {
+    const TbTrParseNode& table;
+    const TbTrParseNode& expression;
+    bool groupMagnet;
+    std::vector<int> types; ///< of the term's variables, in their order
+    std::vector<const TbTrParseNode*> variables;
+    std::vector<const TbTrParseNode*> totals; ///< the marks that the variables bear
+};
+
+Term MakeTerm(const TbTrParseNode& table, const TbTrParseNode& magnet) {
+    const TbTrParseNode* const parent = magnet.GetParent();
+    const bool nested = parent != nullptr && parent->GetNodeType() == SP_GREATERTHAN;
+    Term term{table, nested ? *parent : magnet, false, {}, {}, {}};
+    for (const TbTrParseNode* variable = ParseTree::GetNextVariable(term.expression, nullptr);
+         variable != nullptr; variable = ParseTree::GetNextVariable(term.expression, variable)) {
+        const int type = DeclaredType(*variable, table);
+        term.types.push_back(type);
+        term.variables.push_back(variable);
+        if (const TbTrParseNode* mark = variable->GetChild(1)) {
+            term.totals.push_back(mark);
+        }
+        if (variable == &magnet) {
+            term.groupMagnet = IsGroupType(type);
+        }
+    }
+    return term;
+}
+
+/// Whether a function of the kind can be computed for a variable of the type.
+bool KindSuits(char kind, int type) {
+    if (type == TB_OBSERVATION) {
+        return kind != 'R';
+    }
+    return IsGroupType(type) ? kind != 'S' : kind == 'C';
+}
+
+bool KindSuitsAny(char kind, const Term& term) {
+    return std::any_of(term.types.begin(), term.types.end(),
+                       [=](int type) { return KindSuits(kind, type); });
+}
+
+/// Whether a function applies, and the argument whose label and format are then written (null when
+/// it has none).
+struct Match {
+    bool applies = false;
+    const TbTrParseNode* argument = nullptr;
+};
+
+/// Arguments without variables are one display specification, for whatever the function applies to.
+bool NamesVariables(const TbTrParseNode* arguments) {
+    return arguments != nullptr && ArgumentVariable(*arguments->GetChild(0)) != nullptr;
+}
+
+/// Name and kind must hold for the same variable of the term.
+Match MatchTerm(const TbTrParseNode* arguments, char kind, const Term& term) {
+    if (!NamesVariables(arguments)) {
+        return {KindSuitsAny(kind, term), arguments != nullptr ? arguments->GetChild(0) : nullptr};
+    }
+    for (std::size_t i = 0; i < term.variables.size(); ++i) {
+        const TbTrParseNode* const argument =
+            FindArgument(arguments, TokenOf(*term.variables[i]).AsString(false));
+        if (argument != nullptr && KindSuits(kind, term.types[i])) {
+            return {true, argument};
+        }
+    }
+    return {};
+}
+
+/// A total is named like a variable; the kind must suit what it is the total of.
+Match MatchTotals(const TbTrParseNode* arguments, char kind, const Term& term,
+                  const Match& termMatch) {
+    if (term.totals.empty()) {
+        return {};
+    }
+    if (!NamesVariables(arguments)) {
+        return termMatch;
+    }
+    for (const TbTrParseNode* total : term.totals) {
+        const TbTrParseNode* const argument =
+            FindArgument(arguments, TokenOf(*total).AsString(false));
+        if (argument != nullptr && KindSuitsAny(kind, term)) {
+            return {true, argument};
+        }
+    }
+    return {};
+}
+
+/// A statistic with its label and format.
+OutputSequence StatisticItem(const std::string& text, const TbTrParseNode* argument) {
+    OutputSequence item;
+    item.PushBack(text, false);
+    if (argument != nullptr) {
+        if (const TbTrParseNode* label = ArgumentLabel(*argument)) {
+            item.PushBack(",", false);
+            item.PushBack(TokenOf(*label).AsString(true), false);
+        }
+        if (const TbTrParseNode* format = ArgumentFormat(*argument)) {
+            item.PushBack(",", false);
+            item.PushBack(TokenOf(*format).AsString(false), false);
+        }
+    }
+    FuseShortLine(item);
+    return item;
+}
+
+void AppendItem(OutputSequence& list, OutputSequence item) {
+    if (!list.IsEmpty()) {
+        list.PushBack(",", false);
+    }
+    list.PushBack(std::move(item));
+}
+
+/// The texts of a function's statistics: one, or one for each base of a percentage.
+std::vector<std::string> StatisticTexts(const TbTrParseNode& function, const std::string& newName,
+                                        bool isPercentage, int bases) {
+    const std::string prefix = IsUnweighted(function) ? "U" : "";
+    std::string name = newName;
+    if (const TbTrParseNode* number = FunctionName(function).GetChild(0)) {
+        name += ' ' + TokenOf(*number).AsString(true);
+    }
+    if (!isPercentage) {
+        return {prefix + name};
+    }
+    std::vector<std::string> texts;
+    for (const BaseWord& row : gBaseWords) {
+        if ((bases & row.base) != 0) {
+            texts.push_back(std::string(prefix).append(row.word).append(name));
+        }
+    }
+    ZELK_ASSERT(!texts.empty());
+    return texts;
+}
+
+/// The two lists of a magnet: the statistics of the cells and those of its totals.
+struct StatisticsLists {
+    OutputSequence cells;
+    OutputSequence totals;
+};
+
+/// Appends the statistics of one function. False when its name is unknown.
+bool ExpressFunction(const TbTrParseNode& function, const Term& term, int dimension,
+                     const TbTrParseNode& expandedDimensions, StatisticsLists& lists) {
+    const ZELKToken& name = TokenOf(FunctionName(function));
+    char kind = 0;
+    bool isPercentage = false;
+    const std::string newName = ParseTree::MapFunctionName(
+        name.AsString(false), true, term.groupMagnet, term.table, kind, isPercentage);
+    if (newName.empty()) {
+        ReportTranslationError(name, TB_STATISTICS, TbTrTablesCommand::kUnknownFunction);
+        return false;
+    }
+    const TbTrParseNode* const arguments = FunctionArguments(function);
+    const Match cells = MatchTerm(arguments, kind, term);
+    const Match totals = MatchTotals(arguments, kind, term, cells);
+    if (!cells.applies && !totals.applies) {
+        return true;
+    }
+    int bases = 0;
+    if (isPercentage) {
+        bases = ParseTree::DeterminePercentageBases(term.expression, dimension,
+                                                    BaseVariables(function), expandedDimensions);
+        if ((bases & TBTR_OTHERTABPCT) != 0) {
+            bases |= TBTR_TABPCT;
+        }
+    }
+    for (const std::string& text : StatisticTexts(function, newName, isPercentage, bases)) {
+        if (cells.applies) {
+            AppendItem(lists.cells, StatisticItem(text, cells.argument));
+        }
+        if (totals.applies) {
+            AppendItem(lists.totals, StatisticItem(text, totals.argument));
+        }
+    }
+    return true;
+}
+
+/// Groups have no statistic of their own when none is asked for.
+void ExpressDefaultOfGroup(const Term& term, StatisticsLists& lists) {
+    if (!term.groupMagnet || !lists.cells.IsEmpty()) {
+        return;
+    }
+    lists.cells.PushBack("RESPONSES", false);
+    if (!term.totals.empty()) {
+        if (!lists.totals.IsEmpty()) {
+            lists.totals.PushBack(",", false);
+        }
+        lists.totals.PushBack("RESPONSES", false);
+    }
+}
+
+} // namespace
+
+bool ParseTree::ExpressFunctions(const TbTrParseNode* statistics, const TbTrParseNode& table,
+                                 int dimension, const TbTrParseNode& magnet,
+                                 const TbTrParseNode& expandedDimensions, OutputSequence& output) {
+    output.Clear();
+    const Term term = MakeTerm(table, magnet);
+    StatisticsLists lists;
+    for (unsigned i = 0; statistics != nullptr && i < statistics->GetChildCount(); ++i) {
+        if (!ExpressFunction(*statistics->GetChild(i), term, dimension, expandedDimensions,
+                             lists)) {
+            return false;
+        }
+    }
+    ExpressDefaultOfGroup(term, lists);
+    output.PushBack(std::move(lists.cells));
+    if (!lists.totals.IsEmpty()) {
+        OutputSequence totals;
+        totals.PushBack("TOTALS", false);
+        totals.PushBack("[", false);
+        totals.PushBack(std::move(lists.totals));
+        totals.PushBack("]", false);
+        FuseShortLine(totals);
+        output.PushBack(",", false); // also behind an empty list
+        output.PushBack(std::move(totals));
+    }
+    return true;
+}
+
+} // namespace recastor

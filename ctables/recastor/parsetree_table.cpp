@@ -1,0 +1,226 @@
+// The translation of one TABLE subcommand with its local subcommands.
+
+#include "ctables/recastor/outputsequence.h"
+#include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/parsetree_lookup.h"
+#include "ctables/recastor/parsetree_totals.h"
+#include "platform/zelkbase/zelkassert.h"
+
+#include <utility>
+
+namespace recastor {
+
+namespace {
+
+/// A pseudo-variable that stands in several dimensions counts as standing in none.
+int SingleDimension(int dimension) {
+    constexpr int kSeveralDimensions = 4;
+    return dimension == kSeveralDimensions ? 0 : dimension;
+}
+
+unsigned SlotOf(int dimension) {
+    return static_cast<unsigned>(dimension - 1);
+}
+
+bool AssociateTotalsOfTable(const TbTrParseNode& table, TotalsMap& totals) {
+    for (unsigned i = 0; i < table.GetChildCount(); ++i) {
+        const TbTrParseNode* const expression = table.GetChild(i);
+        if (expression != nullptr && !AssociateTotals(*expression, totals)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The dimensions of a table once its statistics dimension is known.
+class TableDimensions {
+public:
+    /// Multiplies every dimension out; for the statistics dimension the result takes its place in
+    /// the table, for the others it is kept beside, for the bases of percentages.
+    TableDimensions(TbTrParseNode& table, int statsDimension) :
+        m_table(table), m_statsDimension(statsDimension), m_expanded(TBI_GENERICLIST, nullptr) {
+        constexpr int kDimensions = 3;
+        for (int dimension = 1; dimension <= kDimensions; ++dimension) {
+            m_expanded.AppendChild(Expand(dimension).release());
+        }
+    }
+
+    const TbTrParseNode& StatisticsExpression() const {
+        return *m_table.GetChild(SlotOf(m_statsDimension));
+    }
+
+    /// Writes the dimensions, joined by BY; an absent one before the last leaves its BY.
+    bool Express(const TbTrParseNode*& firstMagnet, OutputSequence& output) const {
+        constexpr std::size_t kLineLength = 78;
+        for (int dimension = 1; dimension <= m_lastPresent; ++dimension) {
+            if (dimension > 1) {
+                output.PushBack(" BY ", false);
+            }
+            const TbTrParseNode* const expression = m_table.GetChild(SlotOf(dimension));
+            if (expression == nullptr) {
+                continue;
+            }
+            OutputSequence sequence;
+            if (!ParseTree::ExpressDimension(*expression, dimension, m_statsDimension, m_expanded,
+                                             firstMagnet, sequence)) {
+                return false;
+            }
+            if (sequence.Length() <= kLineLength) {
+                sequence.Fuse();
+            }
+            output.PushBack(std::move(sequence));
+        }
+        return true;
+    }
+
+private:
+    TbTrParseNode::NodePtr Expand(int dimension) {
+        const TbTrParseNode* const expression = m_table.GetChild(SlotOf(dimension));
+        if (expression == nullptr) {
+            return nullptr;
+        }
+        m_lastPresent = dimension;
+        TbTrParseNode::NodePtr product = ParseTree::MultiplyOut(expression);
+        if (dimension != m_statsDimension) {
+            return product;
+        }
+        ZELK_ASSERT(product);
+        m_replaced = m_table.SetChild(SlotOf(dimension), product.release());
+        return nullptr;
+    }
+
+    TbTrParseNode& m_table;
+    int m_statsDimension;
+    int m_lastPresent = 0;
+    TbTrParseNode m_expanded;
+    TbTrParseNode::NodePtr m_replaced; ///< the statistics dimension as it was
+};
+
+void ExpressCategories(const TbTrParseNode& table, OutputSequence& output) {
+    const bool include = GetGlobalAttribute(TB_MISSINGSUBCOM, table) == TB_INCLUDE;
+    output.PushBackNewline();
+    output.PushBack("/CATEGORIES VAR=ALL EMPTY=EXCLUDE", false);
+    output.PushBack(" MISSING=", false);
+    output.PushBack(include ? "INCLUDE" : "EXCLUDE", false);
+}
+
+/// Category labels can be moved from the rows or columns to the opposite side only.
+void ExpressCategoryLabels(int labelsDimension, OutputSequence& output) {
+    if (labelsDimension == 1 || labelsDimension == 2) {
+        output.PushBackNewline();
+        output.PushBack("/CLABELS ", false);
+        output.PushBack(labelsDimension == 1 ? "COL" : "ROW", false);
+        output.PushBack("=OPPOSITE", false);
+    }
+}
+
+/// Where the names of the statistics stand. Without a STATISTICS subcommand they are not shown.
+void ExpressStatisticsLabels(const TbTrParseNode& table, int displayDimension, int statsDimension,
+                             OutputSequence& output) {
+    static const char* const positions[] = {"ROW", "COLUMN", "LAYER"};
+    const bool hidden = ParseTree::FindNodeByType(table.GetParent(), TB_STATISTICS) == nullptr;
+    const int position = displayDimension == 0 && !hidden ? statsDimension : displayDimension;
+    if (position == 0 && !hidden) {
+        return;
+    }
+    output.PushBackNewline();
+    output.PushBack("/SLABELS", false);
+    if (position != 0) {
+        output.PushBack(" POSITION=", false);
+        output.PushBack(positions[SlotOf(position)], false);
+    }
+    if (hidden) {
+        output.PushBack(" VISIBLE=NO", false);
+    }
+}
+
+void AppendOnNewLine(OutputSequence sequence, OutputSequence& output) {
+    if (!sequence.IsEmpty()) {
+        output.PushBackNewline();
+        output.PushBack(std::move(sequence));
+    }
+}
+
+/// Whether a function is named for the variable or for the total that it has.
+bool HasStatFunction(const TbTrParseNode& variable, int type, const TbTrParseNode& table,
+                     const TotalsMap& totals) {
+    const ZELKToken& token = TokenOf(variable);
+    if (ParseTree::GetStatFunction(table, token.AsString(false)) != nullptr) {
+        return true;
+    }
+    const auto total = totals.find(WrittenName(token, type));
+    return total != totals.end() &&
+           ParseTree::GetStatFunction(table, TokenOf(*total->second).AsString(false)) != nullptr;
+}
+
+bool ChoosesDimension(const TbTrParseNode& variable, const TbTrParseNode& table,
+                      const TotalsMap& totals) {
+    const int nodeType = variable.GetNodeType();
+    if (nodeType != SP_VARNAME) {
+        ZELK_ASSERT(nodeType == TB_STATISTICS || nodeType == TB_LABELS);
+        return false;
+    }
+    const int type = DeclaredType(variable, table);
+    return type == TB_OBSERVATION || HasStatFunction(variable, type, table, totals);
+}
+
+} // namespace
+
+bool ParseTree::TranslateTableSubcommand(TbTrParseNode& table, OutputSequence& output) {
+    ZELK_ASSERT(table.GetNodeType() == TB_TABLE);
+    output.PushBack("/TABLE ", false);
+    const int displayDimension = SingleDimension(RemovePseudoVariables(table, true));
+    const int labelsDimension = SingleDimension(RemovePseudoVariables(table, false));
+    TotalsMap totals;
+    if (!AssociateTotalsOfTable(table, totals)) {
+        return false;
+    }
+    const int statsDimension = DetermineStatsDimension(table, totals);
+    if (statsDimension == 0) {
+        return true;
+    }
+    const TableDimensions dimensions(table, statsDimension);
+    const TbTrParseNode* firstMagnet = nullptr;
+    if (!dimensions.Express(firstMagnet, output)) {
+        return false;
+    }
+    ExpressCategories(table, output);
+    OutputSequence totalLines;
+    ExpressCatsForTotals(totals, totalLines);
+    AppendOnNewLine(std::move(totalLines), output);
+    ExpressCategoryLabels(labelsDimension, output);
+    ExpressStatisticsLabels(table, displayDimension, statsDimension, output);
+    OutputSequence sortLines;
+    if (!TranslateSort(table, dimensions.StatisticsExpression(), firstMagnet, sortLines)) {
+        return false;
+    }
+    AppendOnNewLine(std::move(sortLines), output);
+    OutputSequence headings;
+    TranslateHeadings(table, headings);
+    AppendOnNewLine(std::move(headings), output);
+    return true;
+}
+
+int ParseTree::DetermineStatsDimension(const TbTrParseNode& table, const TotalsMap& totals) {
+    ZELK_ASSERT(table.GetNodeType() == TB_TABLE);
+    const auto count = static_cast<int>(table.GetChildCount());
+    ZELK_ASSERT(0 < count && count <= 3);
+    int firstPresent = 0;
+    for (int dimension = 1; dimension <= count; ++dimension) {
+        const TbTrParseNode* const expression = table.GetChild(SlotOf(dimension));
+        if (expression == nullptr) {
+            continue;
+        }
+        firstPresent = firstPresent == 0 ? dimension : firstPresent;
+        for (const TbTrParseNode* variable = GetNextVariable(*expression, nullptr);
+             variable != nullptr; variable = GetNextVariable(*expression, variable)) {
+            if (ChoosesDimension(*variable, table, totals)) {
+                return dimension;
+            }
+        }
+    }
+    constexpr int kColumns = 2;
+    return table.GetChild(SlotOf(kColumns)) != nullptr ? kColumns : firstPresent;
+}
+
+} // namespace recastor

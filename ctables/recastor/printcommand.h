@@ -1,0 +1,23 @@
+/// How a command's text reaches the output file.
+#pragma once
+
+#include <ostream>
+#include <string>
+
+namespace recastor {
+
+/// True when every character is a blank, a tab, a line feed or a carriage return; true for "".
+bool IsWSOnly(const std::string& text);
+
+/// Writes `text` as one command or message line: `indent` blanks first (above 20: one), the text
+/// without its last line feed, a period unless it ends in one, a newline; then flushes. Commands
+/// are held with a line feed in place of their terminating period, so this restores it. A
+/// carriage return at the end is looked past: the period goes before it. An empty text writes
+/// nothing.
+void PrintCommand(const std::string& text, std::ostream& out, unsigned indent);
+
+/// The text of a comment command that shows `text`: an asterisk in front, and every line feed,
+/// the last one included, followed by a blank and an asterisk.
+std::string CommentCommand(std::string text);
+
+} // namespace recastor

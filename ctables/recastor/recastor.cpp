@@ -1,0 +1,152 @@
+#include "ctables/recastor/recastor.h"
+
+#include "ctables/recastor/bison/tbtrparsebuilder.h"
+#include "ctables/recastor/bison/tbtrparser.h"
+#include "ctables/recastor/commandstream.h"
+#include "ctables/recastor/errorlines.h"
+#include "ctables/recastor/messages.h"
+#include "ctables/recastor/parseigraph.h"
+#include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/printcommand.h"
+#include "ctables/recastor/tbtrtablescommand.h"
+#include "ctables/recastor/tokenscan.h"
+#include "ctables/recastor/zelktokensequence.h"
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace recastor {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// A command that is converted: how it is recognised, framed and done.
+struct Conversion {
+    const char* word;
+    const std::string& beginComment;
+    const std::string& endComment;
+    void (*convert)(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset);
+};
+
+/// How an ordinary command is converted, by its first word; null for one that is copied.
+const Conversion* FindConversion(ZELKTokenSequence& opening) {
+    constexpr unsigned kAbbreviation = 3;
+    static const Conversion conversions[] = {
+        {"TABLES", IDS_STRING_COMMENT_BEGIN_TABLES_COMMAND, IDS_STRING_COMMENT_END_TABLES_COMMAND,
+         ParseTables},
+        {"IGRAPH", IDS_STRING_COMMENT_BEGIN_IGRAPH_COMMAND, IDS_STRING_COMMENT_END_IGRAPH_COMMAND,
+         ParseIgraph},
+    };
+    if (opening.Next()) {
+        for (const Conversion& conversion : conversions) {
+            if (opening.CompareAsUpperString(conversion.word, kAbbreviation) == 0) {
+                return &conversion;
+            }
+        }
+    }
+    return nullptr;
+}
+
+/// A byte-order mark at the start of the file is written at once, so that the first command is
+/// recognised without it.
+void PassByteOrderMark(std::string& text, std::ostream& output) {
+    if (text.starts_with(kByteOrderMark)) {
+        output << kByteOrderMark;
+        text.erase(0, kByteOrderMark.size());
+    }
+}
+
+void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
+                   std::ostream& output) {
+    ZELKTokenSequence opening(text, batch, kTokensThatTellTheKind);
+    const bool ordinary = opening.TypeOfCommand() == kOrdinaryCommand;
+    const Conversion* const conversion = ordinary ? FindConversion(opening) : nullptr;
+    if (conversion != nullptr) {
+        auto tokens = std::make_unique<ZELKTokenSequence>(text, batch, 0);
+        output << conversion->beginComment << '\n';
+        PrintCommand(CommentCommand(text), output, 1);
+        PrintCommand(conversion->endComment, output, 0);
+        conversion->convert(tokens.release(), output, lineOffset);
+        return;
+    }
+    if (ordinary) {
+        CheckTokens(text.c_str(), batch); // a faulty command ends the run though it is only copied
+    }
+    PrintCommand(text, output, 0);
+}
+
+/// The same; the line of an error in the command's tokens becomes that of the input file.
+void ConvertOrCopyAt(std::int64_t firstLine, const std::string& text, bool batch,
+                     std::ostream& output) {
+    try {
+        ConvertOrCopy(text, batch, firstLine - 1, output);
+    } catch (ParseError& error) {
+        error.IncrementLine(static_cast<long>(firstLine - 1));
+        throw;
+    }
+}
+
+/// Parses the classifier's command; when that fails an error is recorded.
+bool ParseCommand(TbTrTablesCommand& command) {
+    if (yyparse() == 0) {
+        return true;
+    }
+    int line = 0;
+    int column = 0;
+    int code = 0;
+    std::string text;
+    if (command.GetParseErrorInfo(line, column, code, text) == TbTrTablesCommand::kNoError) {
+        // The parser's stack is full: no rule was reduced that could have told it.
+        reportGenericError(command.LastLocation());
+    }
+    return false;
+}
+
+} // namespace
+
+bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output) {
+    try {
+        bool firstCommand = true;
+        while (!commands.NextCommand()) {
+            std::string text = commands.CommandString();
+            if (firstCommand) {
+                PassByteOrderMark(text, output);
+                firstCommand = false;
+            }
+            ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output);
+        }
+        return true;
+    } catch (const ParseError& error) {
+        std::string first;
+        std::string second;
+        GetParseErrorStrings(error, first, second);
+        PrintErrorLine(first, output);
+        PrintErrorLine(second, output);
+        return false;
+    }
+}
+
+void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset) {
+    TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
+    command.Reset(tokens);
+    std::string result;
+    const bool ok =
+        ParseCommand(command) && ParseTree::TranslateTablesCommand(command.GetParseTree(), result);
+    PrintCommand(IDS_STRING_BEGIN_CTABLES_COMMAND, output, 0);
+    if (ok) {
+        for (const std::string& warning : command.ListWarnings()) {
+            PrintErrorLine(warning, output);
+        }
+        PrintCommand(result, output, 0);
+        std::cout << IDS_CONVERSION_TABLES_SUCCEED;
+    } else {
+        PrintParseOrTranslateError(output, static_cast<long>(lineOffset));
+        std::cout << IDS_CONVERSION_TABLES_FAIL;
+    }
+    PrintCommand(IDS_STRING_END_CTABLES_COMMAND, output, 0);
+}
+
+} // namespace recastor

@@ -1,0 +1,38 @@
+/// The root of a parsed TABLES command.
+#pragma once
+
+#include "ctables/recastor/tbtrparsenode.h"
+
+#include <string_view>
+#include <unordered_map>
+
+namespace recastor {
+
+/// A TBI_GENERICLIST: the list of global subcommands, then the table groups. It finds what the
+/// global subcommands declare in constant time, since every variable of every table is looked up.
+class TbTrCommandNode : public TbTrParseNode {
+public:
+    /// A declared name and the node type of the subcommand that declares it: TB_OBSERVATION,
+    /// TB_MRGROUP, TB_MDGROUP, TB_FTOTAL or TB_PTOTAL. Null and 0: nothing declares it.
+    struct Declaration {
+        const TbTrParseNode* node = nullptr;
+        int type = 0;
+    };
+
+    TbTrCommandNode() : TbTrParseNode(TBI_GENERICLIST, nullptr) {}
+
+    /// The first declaration of the (upper-cased) name. The global subcommands must be in place and
+    /// not change afterwards.
+    Declaration FindDeclaration(std::string_view name) const;
+
+private:
+    using Declarations = std::unordered_map<std::string_view, Declaration>;
+
+    static void AddNames(const TbTrParseNode* list, int type, Declarations& declarations);
+    Declarations ReadDeclarations() const;
+
+    mutable Declarations m_declarations; ///< by name; the names are those of the nodes' tokens
+    mutable bool m_declarationsRead = false;
+};
+
+} // namespace recastor

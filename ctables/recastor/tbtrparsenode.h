@@ -1,0 +1,85 @@
+/// The tree of a parsed TABLES command.
+#pragma once
+
+#include "ctables/recastor/tbtrnodetypes.h"
+#include "ctables/recastor/zelktoken.h"
+#include "platform/zelkbase/smallobjects.h"
+
+#include <cstdint>
+#include <memory>
+#include <ostream>
+#include <vector>
+
+namespace recastor {
+
+/// A node: a type of TbTrNodeType, the token that it stands for (keyword and structural nodes have
+/// none) and children in order. A node owns its token and its children. A child slot may hold
+/// null; such slots count, since they keep positions. Out-of-range indexes (0-based) are answered
+/// with null or 0.
+///
+/// Every SP_VARNAME node that MakeVarNameNode makes has two slots: 0 for the label that the syntax
+/// gives a total or a group, 1 for the total that the translator attaches to a variable.
+class TbTrParseNode : public SmallObject {
+public:
+    using NodePtr = std::unique_ptr<TbTrParseNode>;
+
+    /// What GetChildIndex answers when there is no such child.
+    static constexpr unsigned kNoIndex = 0xFFFFFFFFU;
+
+    /// Takes over `token`, which may be null.
+    TbTrParseNode(int nodeType, ZELKToken* token);
+    virtual ~TbTrParseNode();
+    TbTrParseNode(const TbTrParseNode&) = delete;
+    TbTrParseNode& operator=(const TbTrParseNode&) = delete;
+
+    virtual int GetNodeType() const;
+    virtual void SetNodeType(int nodeType);
+    /// The token stays with the node.
+    virtual ZELKToken* GetToken() const;
+    /// Takes over `token` and returns the previous one, which is the caller's to delete.
+    virtual ZELKToken* SetToken(ZELKToken* token);
+    virtual void SetParent(TbTrParseNode* parent);
+    virtual TbTrParseNode* GetParent() const;
+    /// Puts `child` (may be null) into an existing slot and takes it over; returns what stood
+    /// there. Out of range it does nothing, and `child` stays the caller's.
+    virtual NodePtr SetChild(unsigned index, TbTrParseNode* child);
+    /// Takes the slot away and returns what stood in it; later children move up.
+    virtual NodePtr RemoveChild(unsigned index);
+    /// Appends a slot and takes over `child`, which may be null.
+    virtual void AppendChild(TbTrParseNode* child);
+    /// Inserts `count` null slots before position `index`, which may be the child count, and
+    /// returns `count`; 0, with nothing changed, for a larger index.
+    virtual unsigned InsertNullChildren(unsigned index, unsigned count);
+    virtual TbTrParseNode* GetChild(unsigned index) const;
+    /// The slot that holds exactly this node.
+    virtual unsigned GetChildIndex(const TbTrParseNode* child) const;
+    virtual unsigned GetChildCount() const;
+    /// Debug print of the tree, `level` tabs deep (none when it is below 0 or above 20).
+    virtual void Print(std::ostream& out, int level) const;
+
+    /// A deep copy without parent that the caller owns.
+    TbTrParseNode* Clone() const;
+
+    // Factories. The node is the caller's. A token is taken over only when a node is made of it;
+    // null is returned for a null token and one of another type.
+
+    /// A node without token for one of the attribute codes; `token`, if given, is deleted. Null,
+    /// with the token left to the caller, for any other code.
+    static TbTrParseNode* MakeAttrNode(int type, ZELKToken* token);
+    static TbTrParseNode* MakeLiteralNode(ZELKToken* token);
+    static TbTrParseNode* MakeNumberNode(ZELKToken* token);
+    static TbTrParseNode* MakeVarNameNode(ZELKToken* token);
+    /// A TBI_VARRANGE node over both names; one that is no name leaves its slot null. Null when
+    /// neither is one.
+    static TbTrParseNode* MakeVarRangeNode(ZELKToken* first, ZELKToken* last);
+
+private:
+    int m_nodeType;
+    std::unique_ptr<ZELKToken> m_token;
+    TbTrParseNode* m_parent = nullptr;
+    std::vector<NodePtr, SmallObjectAllocator<NodePtr>> m_children;
+    /// Where the parent held this node when it took it; a search for its place begins there.
+    mutable unsigned m_placeHint = 0;
+};
+
+} // namespace recastor

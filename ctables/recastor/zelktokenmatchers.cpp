@@ -1,0 +1,83 @@
+// The matchers of the tokenizer: what was scanned becomes a token.
+
+#include "ctables/recastor/tokenarray.h"
+#include "ctables/recastor/tokenscan.h"
+#include "ctables/recastor/zelktokenvector.h"
+#include "platform/zelkmb/zelkmb.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace recastor {
+
+namespace {
+
+std::string UpperCased(const MBCharPointer& start, const MBCharPointer& end) {
+    std::string text(start.Pointer(), end.Pointer());
+    ZELKMBstrupr_A(text.data());
+    return text;
+}
+
+} // namespace
+
+bool ZELKTokenVector::MatchLiteral(MBCharPointer& cursor, int line) {
+    const MBCharPointer start = cursor;
+    std::string value;
+    if (!ScanLiteral(cursor, line, &value)) {
+        return false;
+    }
+    m_TokVec->Append(std::make_unique<ZELKLiteralToken>(start.Pointer(), cursor.Pointer(), line,
+                                                        start.CharacterNumber(), std::move(value)));
+    return true;
+}
+
+bool ZELKTokenVector::MatchMacroToken(MBCharPointer& cursor, int line) {
+    const MBCharPointer start = cursor;
+    if (!ScanMacroToken(cursor)) {
+        return false;
+    }
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(
+        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(), UpperCased(start, cursor),
+        TokenSequenceBase::kNotOperator));
+    return true;
+}
+
+bool ZELKTokenVector::MatchNumber(MBCharPointer& cursor, int line) {
+    const MBCharPointer start = cursor;
+    double value = 0.0;
+    if (!ScanNumber(cursor, line, &value)) {
+        return false;
+    }
+    m_TokVec->Append(std::make_unique<ZELKNumberToken>(start.Pointer(), cursor.Pointer(), line,
+                                                       start.CharacterNumber(), value));
+    return true;
+}
+
+bool ZELKTokenVector::MatchOperator(MBCharPointer& cursor, int line) {
+    const MBCharPointer start = cursor;
+    TokenSequenceBase::OperatorCode code = TokenSequenceBase::kNotOperator;
+    if (!ScanOperator(cursor, code)) {
+        return false;
+    }
+    if (start.Code() != ',') { // commas separate, but never reach a parser
+        m_TokVec->Append(std::make_unique<ZELKOperatorToken>(start.Pointer(), cursor.Pointer(),
+                                                             line, start.CharacterNumber(), code));
+    }
+    return true;
+}
+
+bool ZELKTokenVector::MatchWord(MBCharPointer& cursor, int line) {
+    const MBCharPointer start = cursor;
+    if (!ScanWord(cursor)) {
+        return false;
+    }
+    std::string upperCased = UpperCased(start, cursor);
+    const TokenSequenceBase::OperatorCode code = ReservedWordCode(upperCased);
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(start.Pointer(), cursor.Pointer(), line,
+                                                       start.CharacterNumber(),
+                                                       std::move(upperCased), code));
+    return true;
+}
+
+} // namespace recastor

@@ -1,0 +1,168 @@
+#include "ctables/recastor/zelktokensequence.h"
+
+#include "ctables/recastor/commandboundary.h"
+#include "ctables/recastor/zelkname.h"
+#include "ctables/recastor/zelktokenvector.h"
+#include "platform/zelkbase/zelkassert.h"
+
+namespace recastor {
+
+/// The tokens and the reader's place among them.
+class ZELKTokenSequenceImp {
+public:
+    ZELKTokenSequenceImp(const std::string& text, bool batch, int maxTokens) :
+        m_tokenVec(text.c_str(), batch, maxTokens) {}
+
+    std::size_t Count() const { return static_cast<std::size_t>(m_tokenVec.Count()); }
+
+    /// The current token; null at the end.
+    const ZELKToken* Current() const {
+        return m_curr < Count() ? &m_tokenVec[static_cast<int>(m_curr)] : nullptr;
+    }
+
+    std::size_t m_curr = 0;
+    std::size_t m_nextTok = 0; ///< the token that the next Next() makes current
+    ZELKTokenVector m_tokenVec;
+};
+
+namespace {
+
+/// Hands out the token's text, or null and 0 when there is no token.
+void GiveText(const ZELKToken* token, bool raw, const char*& text, unsigned& length) {
+    text = nullptr;
+    length = 0;
+    if (token != nullptr) {
+        const std::string& string = token->AsString(raw);
+        text = string.data();
+        length = static_cast<unsigned>(string.size());
+    }
+}
+
+} // namespace
+
+ZELKTokenSequence::ZELKTokenSequence(const std::string& text, bool batch, int maxTokens) :
+    m_pImp(std::make_unique<ZELKTokenSequenceImp>(text, batch, maxTokens)) {}
+
+ZELKTokenSequence::~ZELKTokenSequence() = default;
+
+bool ZELKTokenSequence::Next() {
+    m_pImp->m_curr = m_pImp->m_nextTok;
+    if (m_pImp->m_nextTok >= m_pImp->Count()) {
+        return false;
+    }
+    ++m_pImp->m_nextTok;
+    return true;
+}
+
+unsigned ZELKTokenSequence::Tell() const {
+    return static_cast<unsigned>(m_pImp->m_curr);
+}
+
+void ZELKTokenSequence::Seek(unsigned position) {
+    m_pImp->m_nextTok = position;
+}
+
+unsigned ZELKTokenSequence::Size() const {
+    return static_cast<unsigned>(m_pImp->Count());
+}
+
+ZELKTokenSequence::TokenType ZELKTokenSequence::Type() const {
+    const ZELKToken* token = m_pImp->Current();
+    return token != nullptr ? token->Type() : kAtEnd;
+}
+
+ZELKTokenSequence::OperatorCode ZELKTokenSequence::Operator() const {
+    const ZELKToken* token = m_pImp->Current();
+    return token != nullptr ? token->OpCode() : kNotOperator;
+}
+
+void ZELKTokenSequence::AsString(const char*& text, unsigned& length) const {
+    GiveText(m_pImp->Current(), Type() != kLiteral, text, length);
+}
+
+void ZELKTokenSequence::AsUpperString(const char*& text, unsigned& length) const {
+    GiveText(m_pImp->Current(), false, text, length);
+}
+
+double ZELKTokenSequence::AsNumber() const {
+    const ZELKToken* token = m_pImp->Current();
+    return token != nullptr ? token->AsNumber() : 0.0;
+}
+
+int ZELKTokenSequence::LineNumber() const {
+    const ZELKToken* token = m_pImp->Current();
+    ZELK_ASSERT_AS(token != nullptr, "m_pImp->m_curr < m_pImp->m_tokenVec.Count()");
+    int line = 0;
+    int column = 0;
+    token->StartLocation(line, column);
+    return line;
+}
+
+int ZELKTokenSequence::Column() const {
+    int line = 0;
+    int column = 0;
+    if (const ZELKToken* token = m_pImp->Current()) {
+        token->StartLocation(line, column);
+    }
+    return column;
+}
+
+void ZELKTokenSequence::AsRawString(const char*& text, unsigned& length) const {
+    GiveText(m_pImp->Current(), true, text, length);
+}
+
+void ZELKTokenSequence::Print(std::ostream& out) const {
+    if (const ZELKToken* token = m_pImp->Current()) {
+        token->Print(out, 0);
+    }
+}
+
+int ZELKTokenSequence::CompareAsUpperString(const std::string& s, unsigned n) const {
+    const ZELKToken* token = m_pImp->Current();
+    return token != nullptr ? token->CompareAsString(s, n, false) : -1;
+}
+
+ZELKToken* ZELKTokenSequence::DupToken() const {
+    const ZELKToken* token = m_pImp->Current();
+    return token != nullptr ? token->Dup() : nullptr;
+}
+
+int ZELKTokenSequence::VarNameCategory() const {
+    const ZELKToken* token = m_pImp->Current();
+    if (token == nullptr || token->Type() != kString) {
+        return 0;
+    }
+    switch (ValidateZELKName(token->AsString(true).c_str())) {
+    case kOrdinaryName:
+        return 1;
+    case kScratchName:
+        return 2;
+    case kSystemName:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
+int ZELKTokenSequence::TypeOfCommand() const {
+    switch (m_pImp->m_tokenVec.TypeOfCommand()) {
+    case kStateComment:
+        return kCommentCommand;
+    case kStateDocument:
+        return kDocumentCommand;
+    case kStateInlineData:
+        return kInlineDataCommand;
+    default:
+        return kOrdinaryCommand;
+    }
+}
+
+int ZELKTokenSequence::FindEndOfCommand(const std::string& text, bool commentMode) {
+    return ZELKTokenVector::FindEndOfCommand(text.c_str(), text.size(), commentMode);
+}
+
+bool ZELKTokenSequence::IsEndData(const std::string& line) {
+    return ZELKTokenVector::IsEndData(line.c_str());
+}
+
+} // namespace recastor

@@ -1,0 +1,95 @@
+/// Memory for small objects that are made and dropped by the thousand: tokens and tree nodes.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <new>
+
+namespace recastor {
+
+/// Hands out blocks of up to kLargest bytes from free lists, one for each size; larger ones come
+/// from the heap. What is given back waits for the next object of its size: the memory that is held
+/// is bounded by the largest command. Not for use by several threads.
+class SmallObjects {
+public:
+    static constexpr std::size_t kLargest = 128;
+
+    static void* Allocate(std::size_t size) {
+        if (size == 0 || size > kLargest || kUseHeap) {
+            return ::operator new(size);
+        }
+        Block*& first = FreeList(size);
+        if (first == nullptr) {
+            first = NewBlocks(RoundedUp(size));
+        }
+        Block* const block = first;
+        first = block->next;
+        return block;
+    }
+
+    static void Release(void* memory, std::size_t size) noexcept {
+        if (size == 0 || size > kLargest || kUseHeap) {
+            ::operator delete(memory);
+            return;
+        }
+        Block*& first = FreeList(size);
+        first = ::new (memory) Block{first};
+    }
+
+private:
+    struct Block {
+        Block* next;
+    };
+
+    static constexpr std::size_t kGranularity = 16;
+
+    /// The sanitizers see a use after free only when the heap is told of it.
+#ifdef __SANITIZE_ADDRESS__
+    static constexpr bool kUseHeap = true;
+#else
+    static constexpr bool kUseHeap = false;
+#endif
+
+    static constexpr std::size_t RoundedUp(std::size_t size) {
+        return (size + kGranularity - 1) / kGranularity * kGranularity;
+    }
+    static Block*& FreeList(std::size_t size) {
+        return s_freeLists[(size - 1) / kGranularity];
+    }
+    static Block* NewBlocks(std::size_t size);
+
+    static std::array<Block*, kLargest / kGranularity> s_freeLists;
+};
+
+/// Base of the classes whose objects are such small ones.
+class SmallObject {
+public:
+    // The checker asks for an operator delete without the size, which would hide the one with it.
+    // NOLINTNEXTLINE(cert-dcl54-cpp,misc-new-delete-overloads)
+    static void* operator new(std::size_t size) { return SmallObjects::Allocate(size); }
+    static void operator delete(void* memory, std::size_t size) noexcept {
+        SmallObjects::Release(memory, size);
+    }
+};
+
+/// The same memory for the elements of a container.
+template <typename T>
+struct SmallObjectAllocator {
+    using value_type = T;
+
+    SmallObjectAllocator() = default;
+    /// Containers convert their allocator without saying so.
+    template <typename Other>
+    // NOLINTNEXTLINE(google-explicit-constructor)
+    SmallObjectAllocator(const SmallObjectAllocator<Other>&) {}
+
+    T* allocate(std::size_t count) {
+        return static_cast<T*>(SmallObjects::Allocate(count * sizeof(T)));
+    }
+    void deallocate(T* memory, std::size_t count) noexcept {
+        SmallObjects::Release(memory, count * sizeof(T));
+    }
+    bool operator==(const SmallObjectAllocator&) const = default;
+};
+
+} // namespace recastor

@@ -1,0 +1,132 @@
+#include "tests/support/run.h"
+
+#include "ctables/recastor/commandline.h"
+#include "platform/zelkmb/zelkmb.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <iostream>
+#include <spawn.h>
+#include <sstream>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace recastor {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Keeps what a run says away from the test's own streams.
+class SilentStreams {
+public:
+    SilentStreams() :
+        m_output(std::cout.rdbuf(m_sink.rdbuf())), m_errors(std::cerr.rdbuf(m_sink.rdbuf())) {}
+    ~SilentStreams() {
+        std::cout.rdbuf(m_output);
+        std::cerr.rdbuf(m_errors);
+    }
+    SilentStreams(const SilentStreams&) = delete;
+    SilentStreams& operator=(const SilentStreams&) = delete;
+
+private:
+    std::ostringstream m_sink;
+    std::streambuf* m_output;
+    std::streambuf* m_errors;
+};
+
+/// The line behind the one that begins with `start`.
+std::size_t BehindLine(const std::string& text, const std::string& start) {
+    const std::size_t line = text.find(start);
+    if (line == std::string::npos) {
+        throw std::logic_error("no line begins with " + start + " in\n" + text);
+    }
+    return text.find('\n', line) + 1;
+}
+
+} // namespace
+
+std::string ConvertText(const std::string& input, bool batch) {
+    const TemporaryFolder folder;
+    const fs::path inputFile = folder.Path() / "input.syn";
+    const fs::path outputFile = folder.Path() / "output.syn";
+    WriteFile(inputFile, input);
+    const SilentStreams silence;
+    EnableLocale();
+    RunConversion({batch, inputFile.string(), outputFile.string()});
+    return ReadFile(outputFile);
+}
+
+std::string ConvertTables(const std::string& command) {
+    const std::string output = ConvertText(command + ".\n");
+    const std::size_t begin = BehindLine(output, "COMMENT -- Begin CTABLES command.");
+    return output.substr(begin, output.find("COMMENT -- End CTABLES command.") - begin);
+}
+
+RunResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
+                     const fs::path& directory) {
+    const TemporaryFolder folder;
+    const fs::path output = folder.Path() / "stdout";
+    const fs::path errors = folder.Path() / "stderr";
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, directory.c_str());
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, output.c_str(), O_WRONLY | O_CREAT,
+                                     0600);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(), O_WRONLY | O_CREAT,
+                                     0600);
+    std::vector<std::string> words{program};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> argv;
+    for (std::string& word : words) {
+        argv.push_back(word.data());
+    }
+    argv.push_back(nullptr);
+    pid_t child = 0;
+    const int failure =
+        posix_spawn(&child, program.c_str(), &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (failure != 0) {
+        throw std::runtime_error("cannot start " + program);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), ReadFile(output),
+            ReadFile(errors)};
+}
+
+std::string ReadFile(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+void WriteFile(const fs::path& path, const std::string& text) {
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    if (!file.flush()) {
+        throw std::runtime_error("cannot write " + path.string());
+    }
+}
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (fs::temp_directory_path() / "recastor-test-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("cannot make a temporary folder");
+    }
+    m_path = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    fs::remove_all(m_path, ignored);
+}
+
+} // namespace recastor

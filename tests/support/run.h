@@ -1,0 +1,45 @@
+/// Runs of the whole converter, in the test's own process or in one of its own.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace recastor {
+
+/// The text that the converter writes for an input text; what the run says is dropped.
+std::string ConvertText(const std::string& input, bool batch = false);
+
+/// What a TABLES command (without its period) is replaced by: the lines between the comment that
+/// begins and the one that ends the CTABLES command.
+std::string ConvertTables(const std::string& command);
+
+/// What a program left behind.
+struct RunResult {
+    int status = 0; ///< the exit status; 128 and the signal's number when a signal ended it
+    std::string output;
+    std::string errors;
+};
+
+/// Runs `program` with `arguments` in the folder `directory`.
+RunResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
+                     const std::filesystem::path& directory);
+
+std::string ReadFile(const std::filesystem::path& path);
+void WriteFile(const std::filesystem::path& path, const std::string& text);
+
+/// A folder of its own under the system's temporary folder, deleted with all that is in it.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& Path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+} // namespace recastor
