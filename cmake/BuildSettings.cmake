@@ -22,6 +22,10 @@ if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         -Wno-unknown-warning-option)
 endif()
 
+if(RECASTOR_BUILD_FUZZ_TARGETS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(RECASTOR_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_compile_options(${sanitizers})

@@ -44,8 +44,10 @@ private:
     static constexpr std::size_t kGranularity = 16;
 
     /// The sanitizers see a use after free only when the heap is told of it.
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__)
     static constexpr bool kUseHeap = true;
+#elif defined(__has_feature)
+    static constexpr bool kUseHeap = __has_feature(address_sanitizer);
 #else
     static constexpr bool kUseHeap = false;
 #endif
