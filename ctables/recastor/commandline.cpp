@@ -22,6 +22,11 @@ int FailWithUsage(const std::string& message, const std::string& fileName) {
     return kFailure;
 }
 
+int FailToRead(const std::string& fileName) {
+    std::cerr << IDS_STRING_ERROR_READING_INPUT << fileName << '\n';
+    return kFailure;
+}
+
 } // namespace
 
 std::optional<RunRequest> ReadArguments(int argc, const char* const* argv) {
@@ -50,6 +55,9 @@ int RunConversion(const RunRequest& request) {
     if (!input.Open(request.inputName)) {
         return FailWithUsage(IDS_STRING_ERROR_INPUT_FILE, request.inputName);
     }
+    if (!input.Inspect()) {
+        return FailToRead(request.inputName);
+    }
     OutputFile output;
     if (!output.Open(request.outputName, input.File())) {
         return FailWithUsage(IDS_STRING_ERROR_OUTPUT_FILE, request.outputName);
@@ -62,7 +70,13 @@ int RunConversion(const RunRequest& request) {
         output.UseCrLf();
     }
     CommandStream commands(input.Stream(), request.batch);
-    const bool converted = ConvertCommands(commands, request.batch, output.Stream());
+    bool converted = true;
+    try {
+        converted = ConvertCommands(commands, request.batch, output.Stream());
+    } catch (const ReadFailure&) {
+        output.WritePending(); // the commands so far; the one that is cut off is not written
+        return FailToRead(request.inputName);
+    }
     TbTrTablesCommand::g_tablesCommand.Reset(nullptr);
     const bool written = output.Close();
     if (!converted) {

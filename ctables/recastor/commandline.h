@@ -20,8 +20,8 @@ std::optional<RunRequest> ReadArguments(int argc, const char* const* argv);
 /// The usage text. It names recastor whatever the program was started as.
 std::string Usage(const std::string& programName);
 
-/// Converts the request's input file into its output file; what cannot be opened or written, and
-/// a run that an error ended, is told on standard error. The exit status: 0, or 1 on failure.
+/// Converts the request's input file into its output file; what cannot be opened, read or written,
+/// and a run that an error ended, is told on standard error. The exit status: 0, or 1 on failure.
 int RunConversion(const RunRequest& request);
 
 /// Tells standard error that an error ended the run.

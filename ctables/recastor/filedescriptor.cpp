@@ -1,10 +1,32 @@
 #include "ctables/recastor/filedescriptor.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 #include <utility>
 
 namespace recastor {
+
+namespace {
+
+/// Makes a call of the system's again as long as a signal interrupts it.
+template <typename Call>
+auto Uninterrupted(const Call& call) {
+    for (;;) {
+        const auto result = call();
+        if (result >= 0 || errno != EINTR) {
+            return result;
+        }
+    }
+}
+
+} // namespace
+
+FileDescriptor FileDescriptor::Open(const std::string& name, int flags) {
+    constexpr mode_t kReadAndWriteForAll = 0666;
+    return FileDescriptor(Uninterrupted(
+        [&] { return ::open(name.c_str(), flags | O_CLOEXEC, kReadAndWriteForAll); }));
+}
 
 FileDescriptor::~FileDescriptor() {
     Close();
@@ -22,22 +44,17 @@ FileDescriptor& FileDescriptor::operator=(FileDescriptor&& other) noexcept {
 }
 
 long FileDescriptor::Read(char* buffer, std::size_t size) const {
-    for (;;) {
-        const ssize_t count = ::read(m_number, buffer, size);
-        if (count >= 0 || errno != EINTR) {
-            return count;
-        }
-    }
+    return Uninterrupted([&] { return ::read(m_number, buffer, size); });
 }
 
 bool FileDescriptor::Write(std::string_view bytes) const {
     while (!bytes.empty()) {
-        const ssize_t count = ::write(m_number, bytes.data(), bytes.size());
-        if (count > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        } else if (count == 0 || errno != EINTR) {
+        const ssize_t count =
+            Uninterrupted([&] { return ::write(m_number, bytes.data(), bytes.size()); });
+        if (count <= 0) {
             return false;
         }
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
 }
@@ -47,7 +64,7 @@ bool FileDescriptor::Rewind() const {
 }
 
 bool FileDescriptor::Truncate() const {
-    return !IsRegular() || ::ftruncate(m_number, 0) == 0;
+    return !IsRegular() || Uninterrupted([&] { return ::ftruncate(m_number, 0); }) == 0;
 }
 
 bool FileDescriptor::Close() {
@@ -58,29 +75,37 @@ bool FileDescriptor::Close() {
     return ::close(std::exchange(m_number, -1)) == 0 || errno == EINTR;
 }
 
-struct stat FileDescriptor::Status() const {
+std::optional<struct stat> FileDescriptor::Status() const {
     struct stat status {};
-    ::fstat(m_number, &status);
-    return status;
+    return ::fstat(m_number, &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
 bool FileDescriptor::IsDirectory() const {
-    return S_ISDIR(Status().st_mode);
+    const auto status = Status();
+    return status && S_ISDIR(status->st_mode);
 }
 
 bool FileDescriptor::IsRegular() const {
-    return S_ISREG(Status().st_mode);
+    const auto status = Status();
+    return status && S_ISREG(status->st_mode);
 }
 
-bool FileDescriptor::IsSameFileAs(const FileDescriptor& other) const {
-    const struct stat mine = Status();
-    const struct stat theirs = other.Status();
-    return !S_ISCHR(mine.st_mode) && mine.st_dev == theirs.st_dev && mine.st_ino == theirs.st_ino;
+std::optional<bool> FileDescriptor::IsSameFileAs(const FileDescriptor& other) const {
+    const auto mine = Status();
+    const auto theirs = other.Status();
+    if (!mine || !theirs) {
+        return std::nullopt;
+    }
+    return !S_ISCHR(mine->st_mode) && mine->st_dev == theirs->st_dev &&
+           mine->st_ino == theirs->st_ino;
 }
 
 FileReadBuffer::int_type FileReadBuffer::underflow() {
     const long count = m_file.Read(m_block.data(), m_block.size());
-    if (count <= 0) {
+    if (count < 0) {
+        throw ReadFailure();
+    }
+    if (count == 0) {
         return traits_type::eof();
     }
     setg(m_block.data(), m_block.data(), m_block.data() + count);

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <streambuf>
+#include <string>
 #include <string_view>
 #include <sys/stat.h>
 
@@ -16,6 +18,10 @@ public:
     ~FileDescriptor();
     FileDescriptor(FileDescriptor&& other) noexcept;
     FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+
+    /// Opens the file `name` with the `flags` of open(2), and O_CLOEXEC; one that is created by it
+    /// can be read and written by everyone, less the user's umask. Not open on failure.
+    static FileDescriptor Open(const std::string& name, int flags);
 
     bool IsOpen() const { return m_number >= 0; }
 
@@ -32,16 +38,21 @@ public:
 
     bool IsDirectory() const;
     bool IsRegular() const;
-    /// Whether both are open on one file of a kind that keeps what is written to it.
-    bool IsSameFileAs(const FileDescriptor& other) const;
+    /// Whether both are open on one file of a kind that keeps what is written to it; nothing when
+    /// the system cannot tell.
+    std::optional<bool> IsSameFileAs(const FileDescriptor& other) const;
 
 private:
-    struct stat Status() const;
+    std::optional<struct stat> Status() const;
 
     int m_number = -1;
 };
 
-/// Reads a file that it does not own.
+/// Thrown when a file cannot be read to its end.
+class ReadFailure {};
+
+/// Reads a file that it does not own; throws ReadFailure, since a text that ends too early is not
+/// that text.
 class FileReadBuffer : public std::streambuf {
 public:
     explicit FileReadBuffer(const FileDescriptor& file) : m_file(file) {}

@@ -58,12 +58,8 @@ private:
 } // namespace
 
 bool InputFile::Open(const std::string& name) {
-    m_file = FileDescriptor(::open(name.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!m_file.IsOpen() || m_file.IsDirectory() || !SpoolUnlessRewindable()) {
-        return false;
-    }
-    Inspect();
-    return true;
+    m_file = FileDescriptor::Open(name, O_RDONLY);
+    return m_file.IsOpen() && !m_file.IsDirectory() && SpoolUnlessRewindable();
 }
 
 bool InputFile::SpoolUnlessRewindable() {
@@ -82,17 +78,17 @@ bool InputFile::SpoolUnlessRewindable() {
     return true;
 }
 
-void InputFile::Inspect() {
+bool InputFile::Inspect() {
     EncodingCheck encoding;
     FirstLineEnd lineEnd;
-    ForEachBlock(m_file, [&](std::string_view block) {
+    const bool readToTheEnd = ForEachBlock(m_file, [&](std::string_view block) {
         encoding.Feed(block);
         lineEnd.Feed(block);
         return true;
     });
     m_validText = encoding.IsValid();
     m_crLf = lineEnd.IsCrLf();
-    m_file.Rewind();
+    return readToTheEnd && m_file.Rewind();
 }
 
 } // namespace recastor

@@ -8,16 +8,18 @@
 
 namespace recastor {
 
-/// Opens and inspects the input. Inspecting reads it once through; what can be read only once (a
-/// pipe) is first copied to a temporary file without a name.
+/// Opens and inspects the input. What can be read only once (a pipe) is first copied to a temporary
+/// file without a name.
 class InputFile {
 public:
     InputFile() : m_buffer(m_file), m_stream(&m_buffer) {}
 
-    /// False when `name` cannot be opened for reading or is a directory.
+    /// False when `name` cannot be opened for reading, is a directory or cannot be read twice.
     bool Open(const std::string& name);
+    /// Reads the input once through; false when that fails.
+    bool Inspect();
 
-    /// The input from its first byte on.
+    /// The input from its first byte on. A read from it throws ReadFailure when it fails.
     std::istream& Stream() { return m_stream; }
     const FileDescriptor& File() const { return m_file; }
 
@@ -28,7 +30,6 @@ public:
 
 private:
     bool SpoolUnlessRewindable();
-    void Inspect();
 
     FileDescriptor m_file;
     FileReadBuffer m_buffer;

@@ -15,7 +15,7 @@ public:
     explicit LineReader(std::istream& input);
 
     /// The next line without its line feed; the carriage return in front of a line feed stays.
-    /// False when no line is left. A read failure counts as the end of the input.
+    /// False when no line is left.
     bool ReadLine(std::string& line);
 
 private:

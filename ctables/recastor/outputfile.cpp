@@ -70,10 +70,8 @@ void LineWriteBuffer::WriteBlock() {
 }
 
 bool OutputFile::Open(const std::string& name, const FileDescriptor& input) {
-    constexpr mode_t kReadAndWriteForAll = 0666; // less the user's umask
-    m_file =
-        FileDescriptor(::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, kReadAndWriteForAll));
-    if (!m_file.IsOpen() || m_file.IsSameFileAs(input)) {
+    m_file = FileDescriptor::Open(name, O_WRONLY | O_CREAT);
+    if (!m_file.IsOpen() || m_file.IsSameFileAs(input).value_or(true)) {
         return false;
     }
     m_buffer.FlushThrough(!m_file.IsRegular());
@@ -82,7 +80,8 @@ bool OutputFile::Open(const std::string& name, const FileDescriptor& input) {
 
 bool OutputFile::ShareStandardOutput() {
     FileDescriptor standardOutput(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0));
-    if (!m_file.IsRegular() || !standardOutput.IsOpen() || !m_file.IsSameFileAs(standardOutput)) {
+    if (!m_file.IsRegular() || !standardOutput.IsOpen() ||
+        !m_file.IsSameFileAs(standardOutput).value_or(false)) {
         return false;
     }
     m_file = std::move(standardOutput);

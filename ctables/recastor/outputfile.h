@@ -48,8 +48,8 @@ class OutputFile {
 public:
     OutputFile() : m_buffer(m_file), m_stream(&m_buffer) {}
 
-    /// False when `name` cannot be opened for writing, or is the file that `input` is open on:
-    /// that one is left as it is.
+    /// False when `name` cannot be opened for writing, or is, or may be, the file that `input` is
+    /// open on: that one is left as it is.
     bool Open(const std::string& name, const FileDescriptor& input);
 
     std::ostream& Stream() { return m_stream; }

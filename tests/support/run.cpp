@@ -39,6 +39,16 @@ private:
     std::streambuf* m_errors;
 };
 
+/// The texts as the system's calls take them: behind the last stands a null.
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
 /// The line behind the one that begins with `start`.
 std::size_t BehindLine(const std::string& text, const std::string& start) {
     const std::size_t line = text.find(start);
@@ -68,7 +78,7 @@ std::string ConvertTables(const std::string& command) {
 }
 
 RunResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
-                     const fs::path& directory) {
+                     const fs::path& directory, const std::vector<std::string>& environment) {
     const TemporaryFolder folder;
     const fs::path output = folder.Path() / "stdout";
     const fs::path errors = folder.Path() / "stderr";
@@ -83,14 +93,13 @@ RunResult RunProgram(const std::string& program, const std::vector<std::string>&
                                      0600);
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> argv;
-    for (std::string& word : words) {
-        argv.push_back(word.data());
+    std::vector<std::string> settings = environment;
+    for (char** setting = environ; *setting != nullptr; ++setting) {
+        settings.emplace_back(*setting);
     }
-    argv.push_back(nullptr);
     pid_t child = 0;
-    const int failure =
-        posix_spawn(&child, program.c_str(), &actions, nullptr, argv.data(), environ);
+    const int failure = posix_spawn(&child, program.c_str(), &actions, nullptr,
+                                    Pointers(words).data(), Pointers(settings).data());
     posix_spawn_file_actions_destroy(&actions);
     if (failure != 0) {
         throw std::runtime_error("cannot start " + program);

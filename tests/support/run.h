@@ -21,9 +21,11 @@ struct RunResult {
     std::string errors;
 };
 
-/// Runs `program` with `arguments` in the folder `directory`.
+/// Runs `program` with `arguments` in the folder `directory`. It gets this process's environment
+/// and the settings `NAME=VALUE` of `environment`.
 RunResult RunProgram(const std::string& program, const std::vector<std::string>& arguments,
-                     const std::filesystem::path& directory);
+                     const std::filesystem::path& directory,
+                     const std::vector<std::string>& environment = {});
 
 std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, const std::string& text);

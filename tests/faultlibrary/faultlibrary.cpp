@@ -1,0 +1,143 @@
+// A library that is loaded in front of the C library and disturbs chosen calls of the system. The
+// environment says which: RECASTOR_FAULT=CALL:NUMBER:ERROR makes the NUMBERth call (from 1) of CALL
+// fail with errno ERROR, and every later one when NUMBER is followed by "+". ERROR "short" makes a
+// read or a write take one byte only; ERROR "kill" kills the program in place of the call.
+
+#include <cerrno>
+#include <csignal>
+#include <cstdarg>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// What the environment asks for.
+struct Fault {
+    std::string call;
+    int number = 0;
+    bool everyLater = false;
+    bool isShort = false;
+    bool kills = false;
+    int error = 0;
+};
+
+Fault ReadFault() {
+    Fault fault;
+    const char* const setting = std::getenv("RECASTOR_FAULT");
+    if (setting == nullptr) {
+        return fault;
+    }
+    const std::string text = setting;
+    const std::size_t first = text.find(':');
+    const std::size_t second = text.find(':', first + 1);
+    fault.call = text.substr(0, first);
+    fault.number = std::atoi(text.c_str() + first + 1);
+    fault.everyLater = text[second - 1] == '+';
+    fault.isShort = text.substr(second + 1) == "short";
+    fault.kills = text.substr(second + 1) == "kill";
+    fault.error = std::atoi(text.c_str() + second + 1);
+    return fault;
+}
+
+const Fault& TheFault() {
+    static const Fault fault = ReadFault();
+    return fault;
+}
+
+/// Counts the calls of the chosen kind; true for one that shall be disturbed.
+bool IsChosen(const char* call) {
+    static int count = 0;
+    const Fault& fault = TheFault();
+    if (fault.call != call) {
+        return false;
+    }
+    ++count;
+    const bool chosen = count == fault.number || (fault.everyLater && count > fault.number);
+    if (chosen && fault.kills) {
+        std::raise(SIGKILL);
+    }
+    return chosen;
+}
+
+bool Fails(const char* call) {
+    if (!IsChosen(call)) {
+        return false;
+    }
+    errno = TheFault().error;
+    return true;
+}
+
+/// The function that this library stands in front of.
+template <typename Function>
+Function* Next(const char* name) {
+    void* const symbol = dlsym(RTLD_NEXT, name);
+    Function* function = nullptr;
+    static_assert(sizeof function == sizeof symbol);
+    std::memcpy(&function, &symbol, sizeof function);
+    return function;
+}
+
+} // namespace
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    if (Fails("open")) {
+        return -1;
+    }
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = static_cast<mode_t>(va_arg(arguments, unsigned));
+    va_end(arguments);
+    return Next<int(const char*, int, ...)>("open")(path, flags, mode);
+}
+
+ssize_t read(int file, void* buffer, std::size_t size) {
+    if (!IsChosen("read")) {
+        return Next<decltype(read)>("read")(file, buffer, size);
+    }
+    if (TheFault().isShort) {
+        return Next<decltype(read)>("read")(file, buffer, size < 1 ? size : 1);
+    }
+    errno = TheFault().error;
+    return -1;
+}
+
+// The standard streams' own calls are not counted: they tell how it went.
+ssize_t write(int file, const void* bytes, std::size_t size) {
+    if (file <= STDERR_FILENO || !IsChosen("write")) {
+        return Next<decltype(write)>("write")(file, bytes, size);
+    }
+    if (TheFault().isShort) {
+        return Next<decltype(write)>("write")(file, bytes, size < 1 ? size : 1);
+    }
+    errno = TheFault().error;
+    return -1;
+}
+
+int close(int file) {
+    const bool fails = file > STDERR_FILENO && Fails("close");
+    const int error = errno;
+    const int result = Next<decltype(close)>("close")(file);
+    errno = fails ? error : errno;
+    return fails ? -1 : result;
+}
+
+off_t lseek(int file, off_t offset, int whence) {
+    return Fails("lseek") ? -1 : Next<decltype(lseek)>("lseek")(file, offset, whence);
+}
+
+int ftruncate(int file, off_t length) noexcept {
+    return Fails("ftruncate") ? -1 : Next<int(int, off_t)>("ftruncate")(file, length);
+}
+
+int fstat(int file, struct stat* status) noexcept {
+    return Fails("fstat") ? -1 : Next<int(int, struct stat*)>("fstat")(file, status);
+}
+
+} // extern "C"
