@@ -3,6 +3,7 @@
 
 #include "platform/zelkwigr/chartmodel.h"
 
+#include <algorithm>
 #include <optional>
 #include <variant>
 
@@ -34,12 +35,10 @@ inline bool HasType(const std::optional<ChartDimension>& dimension, Measurement 
 /// Whether one of the chart's elements is of one of these kinds.
 template <class... Kinds>
 bool HasElement(const ChartModel& chart) {
-    for (const ChartElement& element : chart.elements) {
-        if ((std::holds_alternative<Kinds>(element) || ...)) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(chart.elements.begin(), chart.elements.end(),
+                       [](const ChartElement& element) {
+                           return (std::holds_alternative<Kinds>(element) || ...);
+                       });
 }
 
 } // namespace recastor

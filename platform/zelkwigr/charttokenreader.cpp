@@ -100,7 +100,7 @@ std::vector<std::string> ChartTokenReader::Text() {
 ChartVariable ChartTokenReader::Variable() {
     const Word word = TakeNameWord();
     if (word.upper == "VAR" && Take(TokenSequenceBase::kLeftParen)) {
-        const ChartVariable variable = Named(TakeNameWord());
+        ChartVariable variable = Named(TakeNameWord());
         Expect(TokenSequenceBase::kRightParen);
         return variable;
     }

@@ -80,7 +80,7 @@ bool IsValidPie(const ChartModel& chart, const Pie& pie) {
         return true;
     }
     const ChartVariable* measure = PieMeasure(chart);
-    return measure && !IsCounted(*measure) && AddsUp(*pie.function);
+    return measure != nullptr && !IsCounted(*measure) && AddsUp(*pie.function);
 }
 
 /// What an element asks of the chart that it stands in.
