@@ -10,6 +10,7 @@
 #include "platform/zelkmb/zelkmb.h"
 
 #include <iostream>
+#include <new>
 
 namespace recastor {
 
@@ -22,8 +23,8 @@ int FailWithUsage(const std::string& message, const std::string& fileName) {
     return kFailure;
 }
 
-int FailToRead(const std::string& fileName) {
-    std::cerr << IDS_STRING_ERROR_READING_INPUT << fileName << '\n';
+int Fail(const std::string& message, const std::string& fileName) {
+    std::cerr << message << fileName << '\n';
     return kFailure;
 }
 
@@ -56,7 +57,7 @@ int RunConversion(const RunRequest& request) {
         return FailWithUsage(IDS_STRING_ERROR_INPUT_FILE, request.inputName);
     }
     if (!input.Inspect()) {
-        return FailToRead(request.inputName);
+        return Fail(IDS_STRING_ERROR_READING_INPUT, request.inputName);
     }
     OutputFile output;
     if (!output.Open(request.outputName, input.File())) {
@@ -75,7 +76,10 @@ int RunConversion(const RunRequest& request) {
         converted = ConvertCommands(commands, request.batch, output.Stream());
     } catch (const ReadFailure&) {
         output.WritePending(); // the commands so far; the one that is cut off is not written
-        return FailToRead(request.inputName);
+        return Fail(IDS_STRING_ERROR_READING_INPUT, request.inputName);
+    } catch (const std::bad_alloc&) {
+        output.WritePending();
+        return Fail(IDS_STRING_ERROR_NO_MEMORY, request.inputName);
     }
     TbTrTablesCommand::g_tablesCommand.Reset(nullptr);
     const bool written = output.Close();
@@ -83,7 +87,7 @@ int RunConversion(const RunRequest& request) {
         PrintFailedMessage();
     }
     if (!written) {
-        std::cerr << IDS_STRING_ERROR_WRITING_OUTPUT << request.outputName << '\n';
+        Fail(IDS_STRING_ERROR_WRITING_OUTPUT, request.outputName);
     }
     return converted && written ? 0 : kFailure;
 }

@@ -25,11 +25,11 @@ const auto& TokenErrorTable() {
 
 /// The messages of TbTrTablesCommand::ErrorType, from kBadArgument on.
 const auto& ParseErrorTable() {
-    static const std::array<const std::string*, 11> table{
+    static const std::array<const std::string*, 12> table{
         &IDS_PTERROR_BADGRAMMAR, &IDS_PTERROR_TOINOBS,   &IDS_PTERROR_SPTABLEEXP,
         &IDS_PTERROR_YYERROR,    &IDS_PTERROR_UNKFUNC,   &IDS_PTERROR_UNKSORTFUNC,
         &IDS_PTERROR_BADASSOC,   &IDS_PTERROR_BADFTOTAL, &IDS_PTERROR_BADPTOTAL,
-        &IDS_PTERROR_BADTOTAL,   &IDS_PTERROR_SCALETOT,
+        &IDS_PTERROR_BADTOTAL,   &IDS_PTERROR_SCALETOT,  &IDS_PTERROR_TOOMANYTERMS,
     };
     return table;
 }

@@ -9,6 +9,7 @@ const std::string IDS_STRING_ERROR_INPUT_FILE = "Error opening input file ";
 const std::string IDS_STRING_ERROR_OUTPUT_FILE = "Error opening output file ";
 const std::string IDS_STRING_ERROR_READING_INPUT = "Error reading input file ";
 const std::string IDS_STRING_ERROR_WRITING_OUTPUT = "Error writing output file ";
+const std::string IDS_STRING_ERROR_NO_MEMORY = "Not enough memory to convert input file ";
 const std::string IDS_FAILED_MESSAGE = "Syntax conversion failed. See output file for details.";
 
 const std::string IDS_STRING_COMMENT_BEGIN_TABLES_COMMAND =
@@ -53,6 +54,8 @@ const std::string IDS_PTERROR_BADPTOTAL =
     "Preceding total %s on a TABLE subcommand does not precede anything.";
 const std::string IDS_PTERROR_BADTOTAL = "Total variable %s does not stack with anything.";
 const std::string IDS_PTERROR_SCALETOT = "Total variable %s stacks with a scale variable.";
+const std::string IDS_PTERROR_TOOMANYTERMS =
+    "The table expression that begins with %s multiplies out to too many variables.";
 
 const std::string IDS_WARN_IGNOREOBSOLETE = "Obsolete subcommand %s has been ignored.";
 const std::string IDS_WARN_IGNOREUNKNOWN =

@@ -15,6 +15,7 @@ extern const std::string IDS_STRING_ERROR_INPUT_FILE;
 extern const std::string IDS_STRING_ERROR_OUTPUT_FILE;
 extern const std::string IDS_STRING_ERROR_READING_INPUT;
 extern const std::string IDS_STRING_ERROR_WRITING_OUTPUT;
+extern const std::string IDS_STRING_ERROR_NO_MEMORY;
 extern const std::string IDS_FAILED_MESSAGE;
 
 // The comment lines that frame a converted command.
@@ -48,6 +49,7 @@ extern const std::string IDS_PTERROR_BADFTOTAL;
 extern const std::string IDS_PTERROR_BADPTOTAL;
 extern const std::string IDS_PTERROR_BADTOTAL;
 extern const std::string IDS_PTERROR_SCALETOT;
+extern const std::string IDS_PTERROR_TOOMANYTERMS;
 
 // What was left out of a converted TABLES command.
 extern const std::string IDS_WARN_IGNOREOBSOLETE;

@@ -28,6 +28,12 @@ void SpliceChildren(TbTrParseNode& parent, unsigned index, TbTrParseNode& operat
 /// The nesting of one operand of a stacking with a copy of the partner, in the source's order.
 TbTrParseNode* NestWithPartner(TbTrParseNode* operand, const TbTrParseNode& partner,
                                bool partnerFirst) {
+    if (operand->GetNodeType() == SP_GREATERTHAN && !IsOperator(partner.GetNodeType())) {
+        const unsigned place = partnerFirst ? 0 : operand->GetChildCount();
+        operand->InsertNullChildren(place, 1);
+        operand->SetChild(place, partner.Clone());
+        return operand; // a long nesting is not moved operand by operand
+    }
     auto* nesting = new TbTrParseNode(SP_GREATERTHAN, nullptr);
     if (partnerFirst) {
         nesting->AppendChild(partner.Clone());
@@ -92,6 +98,32 @@ void MultiplyOutInPlace(TbTrParseNode& node) {
     if (holdsItsLike) {
         TakeOverOperandsOfItsLike(node);
     }
+}
+
+/// How large an expression becomes.
+struct ProductSize {
+    double terms;
+    double variables; ///< of all terms together
+};
+
+ProductSize SizeOfProduct(const TbTrParseNode& node) {
+    if (!IsOperator(node.GetNodeType())) {
+        return {1, 1};
+    }
+    const bool nesting = node.GetNodeType() == SP_GREATERTHAN;
+    ProductSize size{nesting ? 1.0 : 0.0, 0};
+    for (unsigned i = 0; i < node.GetChildCount(); ++i) {
+        const TbTrParseNode* const child = node.GetChild(i);
+        const ProductSize operand = child != nullptr ? SizeOfProduct(*child) : ProductSize{0, 0};
+        if (nesting) {
+            size.variables = size.variables * operand.terms + operand.variables * size.terms;
+            size.terms *= operand.terms;
+        } else {
+            size.variables += operand.variables;
+            size.terms += operand.terms;
+        }
+    }
+    return size;
 }
 
 /// Lets an operation that is left with one operand give its place to it.
@@ -178,6 +210,10 @@ void ParseTree::MergePlusNode(TbTrParseNode& subtree, unsigned reduceIndex) {
     if (subtree.GetChildCount() == 1) {
         TakePlaceOfOnlyChild(subtree, pFirstPlusNode);
     }
+}
+
+double ParseTree::MultipliedOutSize(const TbTrParseNode& expression) {
+    return SizeOfProduct(expression).variables;
 }
 
 TbTrParseNode::NodePtr ParseTree::MultiplyOut(const TbTrParseNode* expression) {

@@ -5,6 +5,10 @@
 #include "ctables/recastor/parsetree_lookup.h"
 #include "platform/zelkbase/zelkassert.h"
 
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
 namespace recastor {
 
 namespace {
@@ -37,21 +41,28 @@ bool SortKey(const TbTrParseNode& sortVariable, const TbTrParseNode& table, std:
     return true;
 }
 
-bool OccursIn(const TbTrParseNode& expression, const std::string& name) {
-    for (const TbTrParseNode* variable = ParseTree::GetNextVariable(expression, nullptr);
-         variable != nullptr; variable = ParseTree::GetNextVariable(expression, variable)) {
-        if (variable->GetNodeType() == SP_VARNAME && IsSameName(TokenOf(*variable), name)) {
-            return true;
+/// The (upper-cased) names of an expression's variables.
+class NamesInExpression {
+public:
+    explicit NamesInExpression(const TbTrParseNode& expression) {
+        for (const TbTrParseNode* variable = ParseTree::GetNextVariable(expression, nullptr);
+             variable != nullptr; variable = ParseTree::GetNextVariable(expression, variable)) {
+            if (variable->GetNodeType() == SP_VARNAME) {
+                m_names.insert(TokenOf(*variable).AsString(false));
+            }
         }
     }
-    return false;
-}
+    bool Has(const std::string& name) const { return m_names.count(name) != 0; }
+
+private:
+    std::unordered_set<std::string_view> m_names; ///< the texts are the tokens' own
+};
 
 /// A variable outside the statistics dimension is sorted by the count of the first magnet.
 bool FixUpSortVariable(const std::string& name, const TbTrParseNode& table,
-                       const TbTrParseNode& expression, const TbTrParseNode* firstMagnet,
+                       const NamesInExpression& statisticsNames, const TbTrParseNode* firstMagnet,
                        std::string& key) {
-    if (key == kCountKey && !OccursIn(expression, name)) {
+    if (key == kCountKey && !statisticsNames.Has(name)) {
         ZELK_ASSERT(firstMagnet != nullptr);
         key += '(' + WrittenNameInTable(TokenOf(*firstMagnet), table) + ')';
     }
@@ -70,6 +81,7 @@ bool ParseTree::TranslateSort(const TbTrParseNode& table, const TbTrParseNode& e
     ZELK_ASSERT(sort->GetChildCount() > 0);
     const TbTrParseNode* const direction = sort->GetChild(0);
     const bool ascending = direction != nullptr && direction->GetNodeType() == TB_ASCENDING;
+    const NamesInExpression statisticsNames(expression);
     for (unsigned i = 1; i < sort->GetChildCount(); ++i) {
         const TbTrParseNode* const sortVariable = sort->GetChild(i);
         ZELK_ASSERT(sortVariable != nullptr && sortVariable->GetNodeType() == TBI_SORTVAR);
@@ -78,7 +90,7 @@ bool ParseTree::TranslateSort(const TbTrParseNode& table, const TbTrParseNode& e
         if (!SortKey(*sortVariable, table, key)) {
             return false;
         }
-        FixUpSortVariable(token.AsString(false), table, expression, firstMagnet, key);
+        FixUpSortVariable(token.AsString(false), table, statisticsNames, firstMagnet, key);
         if (!output.IsEmpty()) {
             output.PushBackNewline();
         }

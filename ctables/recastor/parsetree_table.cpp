@@ -32,6 +32,24 @@ bool AssociateTotalsOfTable(const TbTrParseNode& table, TotalsMap& totals) {
     return true;
 }
 
+/// Refuses a table that would grow beyond all use, and the machine's memory, when its nestings are
+/// multiplied out over their stackings: n nested pairs make 2 to the power of n terms.
+bool CanBeMultipliedOut(const TbTrParseNode& table) {
+    constexpr double kMostVariables = 2'000'000;
+    for (unsigned i = 0; i < table.GetChildCount(); ++i) {
+        TbTrParseNode* const expression = table.GetChild(i);
+        unsigned unused = 0;
+        const bool grows =
+            expression != nullptr && ParseTree::FindMergeCandidate(*expression, unused) != nullptr;
+        if (grows && ParseTree::MultipliedOutSize(*expression) > kMostVariables) {
+            ReportTranslationError(TokenOf(*ParseTree::GetNextVariable(*expression, nullptr)),
+                                   TB_TABLE, TbTrTablesCommand::kTooManyTerms);
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The dimensions of a table once its statistics dimension is known.
 class TableDimensions {
 public:
@@ -178,6 +196,9 @@ bool ParseTree::TranslateTableSubcommand(TbTrParseNode& table, OutputSequence& o
     const int statsDimension = DetermineStatsDimension(table, totals);
     if (statsDimension == 0) {
         return true;
+    }
+    if (!CanBeMultipliedOut(table)) {
+        return false;
     }
     const TableDimensions dimensions(table, statsDimension);
     const TbTrParseNode* firstMagnet = nullptr;

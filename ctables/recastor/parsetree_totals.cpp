@@ -4,8 +4,9 @@
 #include "ctables/recastor/parsetree_lookup.h"
 #include "platform/zelkbase/zelkassert.h"
 
-#include <iterator>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace recastor {
 
@@ -187,8 +188,12 @@ int TotalVarTypeFromDecl(const TbTrParseNode& declaration) {
 
 bool ExpressCatsForTotals(TotalsMap& totals, OutputSequence& output) {
     output.Clear();
+    std::unordered_map<const TbTrParseNode*, std::vector<TotalsMap::iterator>> sharing;
     for (auto entry = totals.begin(); entry != totals.end(); ++entry) {
-        const TbTrParseNode* const declaration = std::exchange(entry->second, nullptr);
+        sharing[entry->second].push_back(entry);
+    }
+    for (const auto& entry : totals) {
+        const TbTrParseNode* const declaration = entry.second;
         if (declaration == nullptr) {
             continue;
         }
@@ -196,12 +201,13 @@ bool ExpressCatsForTotals(TotalsMap& totals, OutputSequence& output) {
             output.PushBackNewline();
         }
         output.PushBack("/CATEGORIES VAR=", false);
-        output.PushBack(entry->first, false);
-        for (auto later = std::next(entry); later != totals.end(); ++later) {
-            if (later->second == declaration) {
+        output.PushBack(entry.first, false);
+        const std::vector<TotalsMap::iterator>& sharers = sharing[declaration];
+        for (const auto& later : sharers) {
+            if (later->first != entry.first) {
                 output.PushBack(later->first, true);
-                later->second = nullptr;
             }
+            later->second = nullptr;
         }
         const bool following = TotalVarTypeFromDecl(*declaration) == TBI_FTOTALVAR;
         output.PushBack(" TOTAL=YES", false);

@@ -32,6 +32,7 @@ public:
         kPrecedesNothing = 9, ///< a preceding total
         kTotalNotStacked = 10,
         kTotalStacksWithScale = 11,
+        kTooManyTerms = 12, ///< a table expression multiplied out
     };
 
     static TbTrTablesCommand g_tablesCommand;

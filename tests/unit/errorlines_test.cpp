@@ -81,6 +81,8 @@ TEST(ParseErrorLines, TellFilePlaceAndReason) {
              Row{9, "Preceding total nAme on a TABLE subcommand does not precede anything."},
              Row{10, "Total variable nAme does not stack with anything."},
              Row{11, "Total variable nAme stacks with a scale variable."},
+             Row{12, "The table expression that begins with nAme multiplies out to too many "
+                     "variables."},
          }) {
         command.Reset(nullptr);
         command.SetParseError({2, 0, 3, 5}, TB_SORT, static_cast<TbTrTablesCommand::ErrorType>(id));
@@ -108,7 +110,7 @@ TEST(ErrorLinesDeathTest, UnknownErrorsAreInternalErrors) {
                  "Assertion failed");
     std::ostringstream output;
     TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
-    command.SetParseError({}, 0, static_cast<TbTrTablesCommand::ErrorType>(12));
+    command.SetParseError({}, 0, static_cast<TbTrTablesCommand::ErrorType>(13));
     EXPECT_DEATH(PrintParseOrTranslateError(output, 0), "Assertion failed");
     command.Reset(nullptr);
 }

@@ -149,6 +149,19 @@ TEST(MultiplyOut, TwoSumsGiveTheFourProducts) {
     EXPECT_EQ(Product("(> (+ a b) (+ c d))"), "(+ (> a c) (> a d) (> b c) (> b d))");
 }
 
+TEST(MultipliedOutSize, CountsTheVariablesOfTheProduct) {
+    struct Row {
+        const char* expression;
+        double size;
+    };
+    for (const Row& row : {Row{"a", 1}, Row{"(+ a b)", 2}, Row{"(> a b)", 2},
+                           Row{"(> (+ a b) (+ c d))", 8}, Row{"(> (+ a b) c (+ d e f))", 18},
+                           Row{"(+ (> (+ a b) c) d)", 5}, Row{"(> a (+ b (> c (+ d e))))", 8}}) {
+        SCOPED_TRACE(row.expression);
+        EXPECT_EQ(row.size, ParseTree::MultipliedOutSize(*TreeFromDump(row.expression)));
+    }
+}
+
 TEST(MultiplyOut, VariableAloneIsCopied) {
     const auto variable = TreeFromDump("a");
     const auto copy = ParseTree::MultiplyOut(variable.get());
