@@ -97,11 +97,17 @@ TEST(ParseChart, TakesWordsOfAListBesideTheKeywordsThatMayFollow) {
     ExpectParsed({
         {"/AREA POINTLABEL=VAL INS INT=SPLINE", "area labels(val) spline"},
         {"/PIE SLICE=VAL OUT SLI=N", "pie labels(n)"},
+        {"/BOX LABEL=OUT OUTL=ON", "box"},
         {"/BAR LABEL=VAL INS BAS=5 BAR=x", "bar labels(val) baseline 5"},
         {"/LINE LABEL=N LAB=VAL LINEL=CAT", "line labels(val)"},
         {"/FITLINE INTERVAL=MEA IND MET=MEA",
          "fitline mean mean-interval individual-interval total"},
     });
+}
+
+TEST(ParseChart, TakesAnAbbreviationOfAWordOfTheListAndAKeywordForNone) {
+    // OUTSIDE and OUTLIERS.
+    ExpectErrors({"/BOX LABEL=VAL OUT", "/BOX LABEL=VAL OUT=ON"});
 }
 
 TEST(ParseChart, LooksAtNoCaseInKeywords) {
