@@ -103,7 +103,6 @@ std::string NameCharsOf(const char* text) {
 }
 
 void PutAtSignInFront(std::string& name) {
-    name.resize(std::min(name.size(), kLongestZELKName - 1));
     name.insert(name.begin(), '@');
     ZELKMBStringTruncate_A(name, kLongestZELKName);
 }

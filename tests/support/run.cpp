@@ -110,11 +110,15 @@ RunResult RunProgram(const std::string& program, const std::vector<std::string>&
             ReadFile(errors)};
 }
 
+std::string ReadAll(std::istream& stream) {
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
 std::string ReadFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
+    return ReadAll(file);
 }
 
 void WriteFile(const fs::path& path, const std::string& text) {

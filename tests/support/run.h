@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <istream>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ RunResult RunProgram(const std::string& program, const std::vector<std::string>&
                      const std::filesystem::path& directory,
                      const std::vector<std::string>& environment = {});
 
+/// What is left of a stream.
+std::string ReadAll(std::istream& stream);
 std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, const std::string& text);
 
