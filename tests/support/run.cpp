@@ -21,24 +21,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Keeps what a run says away from the test's own streams.
-class SilentStreams {
-public:
-    SilentStreams() :
-        m_output(std::cout.rdbuf(m_sink.rdbuf())), m_errors(std::cerr.rdbuf(m_sink.rdbuf())) {}
-    ~SilentStreams() {
-        std::cout.rdbuf(m_output);
-        std::cerr.rdbuf(m_errors);
-    }
-    SilentStreams(const SilentStreams&) = delete;
-    SilentStreams& operator=(const SilentStreams&) = delete;
-
-private:
-    std::ostringstream m_sink;
-    std::streambuf* m_output;
-    std::streambuf* m_errors;
-};
-
 /// The texts as the system's calls take them: behind the last stands a null.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
@@ -65,7 +47,7 @@ std::string ConvertText(const std::string& input, bool batch) {
     const fs::path inputFile = folder.Path() / "input.syn";
     const fs::path outputFile = folder.Path() / "output.syn";
     WriteFile(inputFile, input);
-    const SilentStreams silence;
+    const CapturedStreams silence;
     EnableLocale();
     RunConversion({batch, inputFile.string(), outputFile.string()});
     return ReadFile(outputFile);
@@ -127,6 +109,15 @@ void WriteFile(const fs::path& path, const std::string& text) {
     if (!file.flush()) {
         throw std::runtime_error("cannot write " + path.string());
     }
+}
+
+CapturedStreams::CapturedStreams() :
+    m_previousOutput(std::cout.rdbuf(m_output.rdbuf())),
+    m_previousErrors(std::cerr.rdbuf(m_errors.rdbuf())) {}
+
+CapturedStreams::~CapturedStreams() {
+    std::cout.rdbuf(m_previousOutput);
+    std::cerr.rdbuf(m_previousErrors);
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <istream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,24 @@ RunResult RunProgram(const std::string& program, const std::vector<std::string>&
 std::string ReadAll(std::istream& stream);
 std::string ReadFile(const std::filesystem::path& path);
 void WriteFile(const std::filesystem::path& path, const std::string& text);
+
+/// While it lives it takes what the process says on its standard streams.
+class CapturedStreams {
+public:
+    CapturedStreams();
+    ~CapturedStreams();
+    CapturedStreams(const CapturedStreams&) = delete;
+    CapturedStreams& operator=(const CapturedStreams&) = delete;
+
+    std::string Output() const { return m_output.str(); }
+    std::string Errors() const { return m_errors.str(); }
+
+private:
+    std::ostringstream m_output;
+    std::ostringstream m_errors;
+    std::streambuf* m_previousOutput;
+    std::streambuf* m_previousErrors;
+};
 
 /// A folder of its own under the system's temporary folder, deleted with all that is in it.
 class TemporaryFolder {

@@ -20,7 +20,7 @@ class Files : public testing::Test {
 protected:
     fs::path Path(const std::string& name) const { return m_folder.Path() / name; }
     FileDescriptor Open(const std::string& name, int flags = O_RDWR | O_CREAT) const {
-        return FileDescriptor(::open(Path(name).c_str(), flags | O_CLOEXEC, 0600));
+        return FileDescriptor::Open(Path(name), flags);
     }
 
 private:
@@ -89,7 +89,7 @@ TEST_F(Files, FailuresAreTold) {
     EXPECT_LT(FileDescriptor().Read(block.data(), block.size()), 0);
     EXPECT_FALSE(FileDescriptor().Rewind());
     EXPECT_FALSE(file.Truncate());
-    EXPECT_FALSE(FileDescriptor(::open("/dev/full", O_WRONLY | O_CLOEXEC)).Write("x"));
+    EXPECT_FALSE(FileDescriptor::Open("/dev/full", O_WRONLY).Write("x"));
 }
 
 TEST_F(Files, TruncatedFileIsEmpty) {
@@ -99,7 +99,7 @@ TEST_F(Files, TruncatedFileIsEmpty) {
 }
 
 TEST_F(Files, DeviceIsNotTruncated) {
-    const FileDescriptor device(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    const FileDescriptor device = FileDescriptor::Open("/dev/null", O_WRONLY);
     EXPECT_FALSE(device.IsRegular());
     EXPECT_TRUE(device.Truncate());
 }
@@ -115,7 +115,7 @@ TEST_F(Files, PipeCanBeReadOnce) {
 }
 
 TEST_F(Files, FolderIsADirectory) {
-    const FileDescriptor folder(::open(Path("").c_str(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor folder = FileDescriptor::Open(Path(""), O_RDONLY);
     EXPECT_TRUE(folder.IsDirectory());
     EXPECT_FALSE(folder.IsRegular());
     EXPECT_FALSE(Open("a").IsDirectory());
@@ -128,17 +128,18 @@ TEST_F(Files, SameFileIsKnownByEveryName) {
     fs::create_symlink(Path("a"), Path("link"));
     fs::create_hard_link(Path("a"), Path("hard"));
     const FileDescriptor a = Open("a");
-    EXPECT_TRUE(a.IsSameFileAs(Open("a")));
-    EXPECT_TRUE(a.IsSameFileAs(Open("link")));
-    EXPECT_TRUE(a.IsSameFileAs(Open("hard")));
-    EXPECT_FALSE(a.IsSameFileAs(Open("b")));
-    EXPECT_FALSE(a.IsSameFileAs(FileDescriptor()));
+    EXPECT_EQ(a.IsSameFileAs(Open("a")), true);
+    EXPECT_EQ(a.IsSameFileAs(Open("link")), true);
+    EXPECT_EQ(a.IsSameFileAs(Open("hard")), true);
+    EXPECT_EQ(a.IsSameFileAs(Open("b")), false);
+    EXPECT_EQ(a.IsSameFileAs(FileDescriptor()), std::nullopt);
+    EXPECT_EQ(FileDescriptor().IsSameFileAs(a), std::nullopt);
 }
 
 TEST_F(Files, DeviceThatKeepsNothingIsNoSameFile) {
-    const FileDescriptor first(::open("/dev/null", O_RDWR | O_CLOEXEC));
-    const FileDescriptor second(::open("/dev/null", O_RDWR | O_CLOEXEC));
-    EXPECT_FALSE(first.IsSameFileAs(second));
+    const FileDescriptor first = FileDescriptor::Open("/dev/null", O_RDWR);
+    const FileDescriptor second = FileDescriptor::Open("/dev/null", O_RDWR);
+    EXPECT_EQ(first.IsSameFileAs(second), false);
 }
 
 TEST_F(Files, StreamReadsAFileOfManyBlocks) {
@@ -154,10 +155,15 @@ TEST_F(Files, StreamReadsAFileOfManyBlocks) {
     EXPECT_EQ(stream.get(), std::istream::traits_type::eof());
 }
 
-TEST_F(Files, StreamOfAnUnreadableFileIsAtItsEnd) {
+TEST_F(Files, StreamOfAnUnreadableFileThrows) {
     const FileDescriptor none;
     FileReadBuffer buffer(none);
-    EXPECT_EQ(buffer.sgetc(), FileReadBuffer::traits_type::eof());
+    EXPECT_THROW(buffer.sgetc(), ReadFailure);
+}
+
+TEST_F(Files, FileThatCannotBeOpenedIsNotOpen) {
+    EXPECT_FALSE(FileDescriptor::Open(Path("none/a"), O_RDWR | O_CREAT).IsOpen());
+    EXPECT_FALSE(FileDescriptor::Open(Path("none"), O_RDONLY).IsOpen());
 }
 
 } // namespace

@@ -15,10 +15,10 @@ namespace {
 
 class Input : public Utf8Test {
 protected:
-    /// Opens a file with the text and returns what its stream gives.
+    /// Opens and inspects a file with the text, and returns what its stream gives.
     std::string Open(const std::string& text) {
         WriteFile(m_name, text);
-        EXPECT_TRUE(m_input.Open(m_name));
+        EXPECT_TRUE(m_input.Open(m_name) && m_input.Inspect());
         return ReadAll(m_input.Stream());
     }
 
@@ -52,7 +52,7 @@ bool FirstLineIsCrLf(const std::string& text) {
     const std::string name = (folder.Path() / "input.syn").string();
     WriteFile(name, text);
     InputFile input;
-    EXPECT_TRUE(input.Open(name));
+    EXPECT_TRUE(input.Open(name) && input.Inspect());
     return input.HasCrLf();
 }
 
@@ -97,6 +97,7 @@ TEST_F(Input, PipeIsReadFromItsFirstByteToo) {
     EXPECT_TRUE(writing.Write("FREQ \u00E9.\r\nx\n"));
     EXPECT_TRUE(writing.Close());
     ASSERT_TRUE(m_input.Open("/dev/fd/" + std::to_string(ends[0])));
+    EXPECT_TRUE(m_input.Inspect());
     EXPECT_TRUE(m_input.IsValidText());
     EXPECT_TRUE(m_input.HasCrLf());
     EXPECT_EQ(ReadAll(m_input.Stream()), "FREQ \u00E9.\r\nx\n");

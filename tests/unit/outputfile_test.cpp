@@ -18,10 +18,13 @@ using namespace std::string_literals;
 
 class Output : public testing::Test {
 protected:
+    bool Open(OutputFile& output, const std::string& name) const {
+        return output.Open(name, m_input);
+    }
     /// What the file holds when the pieces were written one by one.
     std::string Written(const std::vector<std::string>& pieces, bool crLf = false) const {
         OutputFile output;
-        EXPECT_TRUE(output.Open(m_path.string(), FileDescriptor()));
+        EXPECT_TRUE(Open(output, m_path.string()));
         if (crLf) {
             output.UseCrLf();
         }
@@ -34,6 +37,10 @@ protected:
 
     TemporaryFolder m_folder;
     fs::path m_path = m_folder.Path() / "output.syn";
+
+private:
+    FileDescriptor m_input =
+        FileDescriptor::Open((m_folder.Path() / "input.syn").string(), O_RDONLY | O_CREAT);
 };
 
 TEST_F(Output, LinesComeOutAsTheyWereWritten) {
@@ -68,7 +75,7 @@ TEST_F(Output, EveryLineMayEndInTwoCharacters) {
 
 TEST_F(Output, SingleCharactersAreGatheredToo) {
     OutputFile output;
-    ASSERT_TRUE(output.Open(m_path.string(), FileDescriptor()));
+    ASSERT_TRUE(Open(output, m_path.string()));
     for (const char c : "ab\n\nc"s) {
         output.Stream().put(c);
     }
@@ -93,7 +100,7 @@ TEST_F(Output, OldContentsAreGone) {
 
 TEST_F(Output, PendingLinesCanBeBroughtToTheFile) {
     OutputFile output;
-    ASSERT_TRUE(output.Open(m_path.string(), FileDescriptor()));
+    ASSERT_TRUE(Open(output, m_path.string()));
     output.Stream() << "a\nb\nhalf" << std::flush;
     EXPECT_EQ(ReadFile(m_path), "") << "a regular file waits for a block";
     output.WritePending();
@@ -108,7 +115,7 @@ TEST_F(Output, ReaderOfAPipeGetsWhatIsFlushed) {
     const FileDescriptor reading(ends[0]);
     const FileDescriptor writing(ends[1]);
     OutputFile output;
-    ASSERT_TRUE(output.Open("/dev/fd/" + std::to_string(ends[1]), FileDescriptor()));
+    ASSERT_TRUE(Open(output, "/dev/fd/" + std::to_string(ends[1])));
     output.Stream() << "a\nb" << std::flush;
     std::array<char, 10> block{};
     ASSERT_EQ(::fcntl(ends[0], F_SETFL, O_NONBLOCK), 0);
@@ -119,16 +126,16 @@ TEST_F(Output, ReaderOfAPipeGetsWhatIsFlushed) {
 
 TEST_F(Output, FileThatCannotBeWrittenIsNotOpened) {
     OutputFile output;
-    EXPECT_FALSE(output.Open(m_folder.Path().string(), FileDescriptor()));
-    EXPECT_FALSE(output.Open((m_folder.Path() / "none" / "x").string(), FileDescriptor()));
-    EXPECT_FALSE(output.Open("", FileDescriptor()));
+    EXPECT_FALSE(Open(output, m_folder.Path().string()));
+    EXPECT_FALSE(Open(output, (m_folder.Path() / "none" / "x").string()));
+    EXPECT_FALSE(Open(output, ""));
 }
 
 TEST_F(Output, InputIsRefusedUnderEveryName) {
     WriteFile(m_path, "the input\n");
     fs::create_symlink(m_path, m_folder.Path() / "link");
     fs::create_hard_link(m_path, m_folder.Path() / "hard");
-    const FileDescriptor input(::open(m_path.c_str(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor input = FileDescriptor::Open(m_path.string(), O_RDONLY);
     for (const char* name : {"output.syn", "./output.syn", "link", "hard"}) {
         OutputFile output;
         EXPECT_FALSE(output.Open((m_folder.Path() / name).string(), input)) << name;
@@ -136,23 +143,30 @@ TEST_F(Output, InputIsRefusedUnderEveryName) {
     EXPECT_EQ(ReadFile(m_path), "the input\n");
 }
 
+TEST_F(Output, FileIsLeftAloneWhenNothingTellsItFromTheInput) {
+    WriteFile(m_path, "old\n");
+    OutputFile output;
+    EXPECT_FALSE(output.Open(m_path.string(), FileDescriptor()));
+    EXPECT_EQ(ReadFile(m_path), "old\n");
+}
+
 TEST_F(Output, FullDeviceIsToldWhenItIsClosed) {
     OutputFile output;
-    ASSERT_TRUE(output.Open("/dev/full", FileDescriptor()));
+    ASSERT_TRUE(Open(output, "/dev/full"));
     output.Stream() << "a\n";
     EXPECT_FALSE(output.Close());
 }
 
 TEST_F(Output, AfterAFailureNothingMoreIsWritten) {
     WriteFile(m_path, "");
-    FileDescriptor file(::open(m_path.c_str(), O_RDONLY | O_CLOEXEC));
+    FileDescriptor file = FileDescriptor::Open(m_path.string(), O_RDONLY);
     LineWriteBuffer buffer(file);
     std::ostream stream(&buffer);
     stream << "a\n";
     EXPECT_FALSE(buffer.HasFailed());
     buffer.WriteBlock();
     EXPECT_TRUE(buffer.HasFailed());
-    file = FileDescriptor(::open(m_path.c_str(), O_WRONLY | O_CLOEXEC));
+    file = FileDescriptor::Open(m_path.string(), O_WRONLY);
     stream << "b\n";
     buffer.Finish();
     EXPECT_TRUE(buffer.HasFailed());
