@@ -4,6 +4,7 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 
 namespace recastor {
@@ -18,7 +19,7 @@ std::optional<std::string> Variable(const char* name) {
     return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
 }
 
-void Restore(const char* name, const std::optional<std::string>& value) {
+void SetVariable(const char* name, const std::optional<std::string>& value) {
     if (value) {
         setenv(name, value->c_str(), 1);
     } else {
@@ -26,39 +27,28 @@ void Restore(const char* name, const std::optional<std::string>& value) {
     }
 }
 
+/// The folder of the locale when the build made it; nothing for one that is installed.
+std::optional<std::string> FolderOf(const std::string& locale) {
+    const std::filesystem::path folder = RECASTOR_TEST_LOCALES;
+    return exists(folder / locale) ? std::optional(folder.string()) : std::nullopt;
+}
+
 } // namespace
 
 TextLocale::TextLocale(const std::string& name) :
     m_previousName(Variable(kNameVariable)), m_previousFolder(Variable(kFolderVariable)) {
-    Follow(name);
-}
-
-TextLocale::TextLocale(const std::string& country, const std::string& encoding) :
-    m_previousName(Variable(kNameVariable)), m_previousFolder(Variable(kFolderVariable)) {
-    const std::string name = country + '.' + encoding;
-    const RunResult made = RunProgram(
-        "/usr/bin/localedef",
-        {"--no-warnings=ascii", "-i", country, "-f", encoding, (m_folder.Path() / name).string()},
-        m_folder.Path());
-    if (made.status != 0) {
-        throw std::runtime_error("cannot make the locale " + name + ": " + made.errors);
-    }
-    setenv(kFolderVariable, m_folder.Path().c_str(), 1);
-    Follow(name);
-}
-
-TextLocale::~TextLocale() {
-    Restore(kNameVariable, m_previousName);
-    Restore(kFolderVariable, m_previousFolder);
-    EnableLocale();
-}
-
-void TextLocale::Follow(const std::string& name) {
-    setenv(kNameVariable, name.c_str(), 1);
+    SetVariable(kFolderVariable, FolderOf(name));
+    SetVariable(kNameVariable, name);
     EnableLocale();
     if (std::setlocale(LC_CTYPE, nullptr) != name) {
         throw std::runtime_error("there is no locale " + name);
     }
+}
+
+TextLocale::~TextLocale() {
+    SetVariable(kNameVariable, m_previousName);
+    SetVariable(kFolderVariable, m_previousFolder);
+    EnableLocale();
 }
 
 } // namespace recastor

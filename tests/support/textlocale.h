@@ -1,8 +1,6 @@
 /// The user's locale, for tests of text in several encodings.
 #pragma once
 
-#include "tests/support/run.h"
-
 #include <optional>
 #include <string>
 
@@ -14,18 +12,13 @@ namespace recastor {
 /// they follow the locale from before again.
 class TextLocale {
 public:
-    /// A locale that is installed everywhere, such as "C.UTF-8".
+    /// An installed locale, or one of those that the tests' build makes.
     explicit TextLocale(const std::string& name);
-    /// The locale of a country ("de_DE") in an encoding ("ISO-8859-1"), generated for the test.
-    TextLocale(const std::string& country, const std::string& encoding);
     ~TextLocale();
     TextLocale(const TextLocale&) = delete;
     TextLocale& operator=(const TextLocale&) = delete;
 
 private:
-    void Follow(const std::string& name);
-
-    TemporaryFolder m_folder;
     std::optional<std::string> m_previousName;
     std::optional<std::string> m_previousFolder;
 };

@@ -163,7 +163,7 @@ TEST_F(Boundary, NulByteOrInvalidBytesHideThePeriodsAroundThem) {
 }
 
 TEST_F(Boundary, LegacyCharacterMayEndInAQuoteLikeByte) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     ExpectEnds({{"\x81\x5C\x81\x7E.\n", 4}, {"'\x81\x7C.'.\n", 5}}, false);
     ExpectEnds({{"* \x81\x5C.\n", 4}}, true);
 }

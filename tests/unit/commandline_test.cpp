@@ -1,5 +1,6 @@
 #include "ctables/recastor/commandline.h"
 #include "ctables/recastor/tbtrtablescommand.h"
+#include "tests/support/run.h"
 #include "tests/support/textlocale.h"
 
 #include <string>
@@ -180,7 +181,7 @@ TEST_F(Run, TextThatIsNotInTheLocalesEncodingIsTakenByteByByte) {
 }
 
 TEST_F(Run, TextOfALegacyLocaleIsReadInItsEncoding) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     // The second byte of the first character is a backslash, which else begins no token.
     EXPECT_EQ(Converted("FREQ \x81\x5C.\nDESC y.\n"), "FREQ \x81\x5C.\nDESC y.\n");
     EXPECT_EQ(m_status, 0);

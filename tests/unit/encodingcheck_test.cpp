@@ -83,12 +83,12 @@ TEST_F(EncodingOfText, LocaleDecides) {
                               "e";
     const std::string chinese = "\x81\x5C\xC4\xE3";
     {
-        const TextLocale german("de_DE", "ISO-8859-1");
+        const TextLocale german("de_DE.ISO-8859-1");
         EXPECT_TRUE(IsValid(latin));
     }
     EXPECT_FALSE(IsValid(latin));
     EXPECT_FALSE(IsValid(chinese));
-    const TextLocale gbk("zh_CN", "GBK");
+    const TextLocale gbk("zh_CN.GBK");
     EXPECT_TRUE(IsValid(chinese));
     EXPECT_FALSE(IsValid(chinese + '\x81'));
     EXPECT_FALSE(IsValid("\xC4\xE3\xFF\xFF"));

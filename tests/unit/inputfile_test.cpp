@@ -1,5 +1,6 @@
 #include "ctables/recastor/inputfile.h"
 #include "platform/zelkmb/zelkmb.h"
+#include "tests/support/run.h"
 #include "tests/support/textlocale.h"
 
 #include <array>

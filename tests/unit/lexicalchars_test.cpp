@@ -183,7 +183,7 @@ TEST_F(LexicalChars, UpperCasingMayWriteIntoItsSource) {
 }
 
 TEST_F(LexicalChars, UpperCasingLeavesTheSecondByteOfALegacyCharacter) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     std::string text;
     UpperCaseString("a\x81\x61z", text);
     EXPECT_EQ(text, "A\x81\x61Z");

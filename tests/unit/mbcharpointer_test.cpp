@@ -88,12 +88,12 @@ TEST_F(Cursor, HighByteThatIsACharacterHasANegativeCode) {
 }
 
 TEST_F(Cursor, HighByteOfAnEightBitLocaleHasANegativeCode) {
-    const TextLocale latin("de_DE", "ISO-8859-1");
+    const TextLocale latin("de_DE.ISO-8859-1");
     ExpectWalks({{"gr\xF6\xDF", "103@1+0 114@2+1 -10@3+2 -33@4+3 0@5+4"}});
 }
 
 TEST_F(Cursor, SecondByteOfALegacyCharacterIsNoAsciiCharacter) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     // The second bytes are a backslash, an "a" and a vertical bar.
     ExpectWalks({{"\x81\x5C.\x81\x61\x81\x7C", "4096@1+0 46@2+2 4096@3+3 4096@4+5 0@5+7"}});
     ExpectWalks({{"a\x81", "97@1+0 0@2+1"}});

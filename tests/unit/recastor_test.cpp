@@ -3,6 +3,7 @@
 #include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/recastor.h"
 #include "ctables/recastor/zelktokensequence.h"
+#include "tests/support/run.h"
 #include "tests/support/textlocale.h"
 
 #include <sstream>

@@ -63,7 +63,7 @@ TEST_F(Multibyte, HighBytesAreCharactersUntilALocaleIsEnabled) {
 }
 
 TEST_F(Multibyte, LengthsOfALegacyEncoding) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     EXPECT_EQ(LengthOf("\x81\x5C"), 2);
     EXPECT_EQ(LengthOf("\xC4\xE3x"), 2);
     EXPECT_EQ(LengthOf("\\"), 1);
@@ -93,10 +93,10 @@ TEST_F(Multibyte, UpperCasingGoesOnBehindInvalidBytes) {
 
 TEST_F(Multibyte, UpperCasingOfLegacyText) {
     {
-        const TextLocale chinese("zh_CN", "GBK");
+        const TextLocale chinese("zh_CN.GBK");
         EXPECT_EQ(Upper("a\x81\x61\x81\x7Az"), "A\x81\x61\x81\x7AZ");
     }
-    const TextLocale latin("de_DE", "ISO-8859-1");
+    const TextLocale latin("de_DE.ISO-8859-1");
     EXPECT_EQ(Upper("gr\xF6\xDF"
                     "e"),
               "GR\xF6\xDF"
@@ -133,7 +133,7 @@ TEST_F(Multibyte, LastPlaceOfAByte) {
 
 TEST_F(Multibyte, ByteInsideACharacterIsNotItsPlace) {
     EXPECT_EQ(LastPlace("\u00E9", '\xA9'), -1);
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     EXPECT_EQ(LastPlace("_a\x81\x5F", '_'), 0);
     EXPECT_EQ(LastPlace("\x81\x5F_", '_'), 2);
 }
@@ -165,7 +165,7 @@ TEST_F(Multibyte, TruncationTakesInvalidBytesOneByOne) {
 }
 
 TEST_F(Multibyte, TruncationOfLegacyText) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     EXPECT_EQ(Truncated("a\x81\x61\x81\x61", 4), "a\x81\x61");
     EXPECT_EQ(Truncated("a\x81\x61\x81\x61", 2), "a");
 }
@@ -189,7 +189,7 @@ TEST_F(Multibyte, LocaleWithoutAnEncodingIsTakenForUtf8) {
 }
 
 TEST_F(Multibyte, LocaleOfTheUserIsFollowed) {
-    const TextLocale latin("de_DE", "ISO-8859-1");
+    const TextLocale latin("de_DE.ISO-8859-1");
     EXPECT_EQ(LengthOf("\xE9"), 1);
     EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), "de_DE.ISO-8859-1");
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");

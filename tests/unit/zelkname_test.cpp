@@ -100,7 +100,7 @@ TEST_F(Names, HighBytesThatAreCharactersAreValid) {
 }
 
 TEST_F(Names, LegacyCharactersAreValidWhateverTheirSecondByte) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     ExpectResults({{"\x81\x5C", 0}, {"a\x81\x7C", 0}, {"a\\", 4}}, ValidateZELKName);
     ExpectResults({{"a\x81\x5F", 0}, {"a\x81\x5F_", 100}}, ValidateZELKNameCheckLastChar);
 }

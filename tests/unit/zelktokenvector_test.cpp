@@ -214,7 +214,7 @@ TEST_F(Tokenizer, NumberIsReadAfterAnotherFailed) {
 }
 
 TEST_F(Tokenizer, DecimalSignIsThePointInEveryLocale) {
-    const TextLocale german("de_DE", "ISO-8859-1");
+    const TextLocale german("de_DE.ISO-8859-1");
     ASSERT_STREQ(std::setlocale(LC_NUMERIC, "de_DE.ISO-8859-1"), "de_DE.ISO-8859-1");
     ASSERT_EQ(std::strtod("2,5", nullptr), 2.5) << "the locale has no decimal comma";
     const ZELKTokenVector tokens("1.25 2,5", false, 0);
@@ -288,7 +288,7 @@ TEST_F(Tokenizer, InvalidBytesAreTheEnd) {
 }
 
 TEST_F(Tokenizer, LegacyCharacterHidesItsSecondByte) {
-    const TextLocale chinese("zh_CN", "GBK");
+    const TextLocale chinese("zh_CN.GBK");
     ExpectTokens({
         {"a\x81\x5C b", "a\x81\x5C b"},
         {"\x81\x7C|", "\x81\x7C kVerticalBar"},
@@ -298,7 +298,7 @@ TEST_F(Tokenizer, LegacyCharacterHidesItsSecondByte) {
 }
 
 TEST_F(Tokenizer, HighBytesOfAnEightBitEncodingAreLetters) {
-    const TextLocale latin("de_DE", "ISO-8859-1");
+    const TextLocale latin("de_DE.ISO-8859-1");
     ExpectPlaces({{"gr\xF6\xDF"
                    "e '\xFC' x",
                    "gr\xF6\xDF"
