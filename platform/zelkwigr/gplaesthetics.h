@@ -1,0 +1,19 @@
+/// The aesthetics that have a legend and a scale.
+#pragma once
+
+#include "platform/zelkwigr/chartfacts.h"
+
+#include <vector>
+
+namespace recastor {
+
+/// A dimension of the chart and the aesthetic that shows it.
+struct ShownAesthetic {
+    const char* name; ///< `aesthetic.size`
+    const ChartDimension* dimension;
+};
+
+/// Those of the chart, in the order of their lines.
+std::vector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts);
+
+} // namespace recastor

@@ -1,0 +1,27 @@
+/// Writes the GPL of a graph.
+#pragma once
+
+#include "platform/zelkwigr/igraphspec.h"
+#include "platform/zelkwigr/opaquetypes.h"
+
+#include <string>
+
+namespace recastor {
+
+/// The lines of the block between BEGIN GPL and END GPL: it begins and ends with a line break.
+/// `chart` is one that has a GPL form.
+std::string WriteGpl(const ChartModel& chart);
+
+class gplGenerator {
+public:
+    /// The spec must outlive the generator.
+    gplGenerator(iGraphSpec& spec, const ZELK_DataSource* data, FacSTDictionary* dictionary);
+
+    /// Empty when the spec has an error message.
+    std::string getGPL() const;
+
+private:
+    const iGraphSpec& m_spec;
+};
+
+} // namespace recastor

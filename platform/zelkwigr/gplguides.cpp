@@ -1,0 +1,158 @@
+// GUIDE.
+
+#include "platform/zelkwigr/gplaesthetics.h"
+#include "platform/zelkwigr/gpllines.h"
+#include "platform/zelkwigr/gplsummary.h"
+#include "platform/zelkwigr/gpltext.h"
+
+#include <variant>
+
+namespace recastor {
+
+namespace {
+
+std::string Label(const std::string& string) {
+    return GplCall("label", {string});
+}
+
+/// What a guide calls a variable that has no title.
+std::string CommonName(const ChartVariable& variable) {
+    switch (variable.builtIn) {
+    case BuiltIn::kCount:
+        return "Count";
+    case BuiltIn::kPercent:
+        return "Percent";
+    default:
+        return DataName(variable);
+    }
+}
+
+std::string TitleOrName(const ChartDimension& dimension) {
+    return dimension.title.empty() ? GplString(CommonName(dimension.variable))
+                                   : GplString(dimension.title);
+}
+
+/// The function of the first element that summarises Y; null when there is none.
+struct FirstSummary {
+    const std::optional<SummaryFunction>* function = nullptr;
+    bool isNormalized = false;
+};
+
+FirstSummary FindFirstSummary(const ChartFacts& facts) {
+    for (const ChartElement* element : facts.drawn) {
+        const bool isNormalized = facts.IsNormalized(KindOf(*element));
+        if (const auto* const bar = std::get_if<Bar>(element)) {
+            return {&bar->function, isNormalized};
+        }
+        if (const auto* const line = std::get_if<Line>(element)) {
+            return {&line->function, isNormalized};
+        }
+        if (const auto* const area = std::get_if<Area>(element)) {
+            return {&area->function, isNormalized};
+        }
+    }
+    return {};
+}
+
+std::string YTitle(const ChartFacts& facts) {
+    const FirstSummary first = FindFirstSummary(facts);
+    if (!facts.y->title.empty()) {
+        return GplString(facts.y->title);
+    }
+    if (first.isNormalized) {
+        return GplString("Percent");
+    }
+    const std::string name = CommonName(facts.y->variable);
+    if (first.function == nullptr || IsCounted(facts.y->variable)) {
+        return GplString(name);
+    }
+    return GplString(SummaryAxisText(FunctionOf(*first.function)) + ' ' + name);
+}
+
+void AppendAxis(int dimension, const std::string& title, const char* place, std::string& text) {
+    AppendGplLine(text, "GUIDE", GplCall("axis", {GplDimensions({dimension}), title, place}));
+}
+
+void AppendAxes(const ChartFacts& facts, std::string& text) {
+    const DimensionNumbers& dimensions = facts.dimensions;
+    if (facts.form == ChartForm::kPie) {
+        AppendAxis(dimensions.measure, "null()", "", text);
+    } else {
+        if (facts.chart.x1) {
+            AppendAxis(dimensions.x1, Label(TitleOrName(*facts.chart.x1)), "", text);
+        }
+        if (facts.chart.x2) {
+            AppendAxis(dimensions.x2, Label(TitleOrName(*facts.chart.x2)), "", text);
+        }
+        AppendAxis(dimensions.measure, Label(YTitle(facts)), "", text);
+    }
+    int panelDimension = dimensions.firstPanel;
+    for (const ChartVariable& panel : facts.chart.panels) {
+        AppendAxis(panelDimension, Label(GplString(CommonName(panel))), "opposite()", text);
+        ++panelDimension;
+    }
+}
+
+void AppendLegends(const ChartFacts& facts, std::string& text) {
+    for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
+        const ChartDimension& dimension = *shown.dimension;
+        const std::string title = dimension.legend ? Label(TitleOrName(dimension)) : "null()";
+        AppendGplLine(text, "GUIDE",
+                      GplCall("legend", {GplCall("aesthetic", {shown.name}), title}));
+    }
+}
+
+void AppendTexts(const ChartModel& chart, std::string& text) {
+    const struct {
+        const char* guide;
+        const std::vector<std::string>& lines;
+    } rows[] = {
+        {"text.title", chart.title},
+        {"text.subtitle", chart.subtitle},
+        {"text.footnote", chart.caption},
+    };
+    for (const auto& row : rows) {
+        const std::string string = GplString(row.lines);
+        if (string != "\"\"") {
+            AppendGplLine(text, "GUIDE", GplCall(row.guide, {Label(string)}));
+        }
+    }
+}
+
+/// The place of a reference line: on the scale that it names; empty when there is none.
+std::string LinePosition(const ChartFacts& facts, const ReferenceLine& line) {
+    const ChartDimension* const x1 = Find(facts.chart.x1);
+    const std::string value = GplNumber(line.value);
+    if (!IsCategorical(facts.y) && IsSameVariable(line.variable, facts.y->variable)) {
+        return "position(*," + value + ')';
+    }
+    if (x1 != nullptr && !IsCategorical(x1) && IsSameVariable(line.variable, x1->variable)) {
+        return "position(" + value + ",*)";
+    }
+    return {};
+}
+
+void AppendReferenceLines(const ChartFacts& facts, std::string& text) {
+    if (facts.form == ChartForm::kPie || facts.form == ChartForm::kThree) {
+        return;
+    }
+    for (const ReferenceLine& line : facts.chart.referenceLines) {
+        const std::string position = LinePosition(facts, line);
+        if (!position.empty()) {
+            const std::string label = line.label ? Label(GplString(GplNumber(line.value))) : "";
+            AppendGplLine(text, "GUIDE", GplCall("form.line", {position, label}));
+        }
+    }
+}
+
+} // namespace
+
+void AppendGuideLines(const GplChart& chart, std::string& text) {
+    const ChartFacts& facts = chart.Facts();
+    AppendAxes(facts, text);
+    AppendLegends(facts, text);
+    AppendTexts(facts.chart, text);
+    AppendReferenceLines(facts, text);
+}
+
+} // namespace recastor

@@ -1,0 +1,185 @@
+#include "platform/zelkwigr/gplnames.h"
+
+#include "platform/zelkbase/zelkassert.h"
+#include "platform/zelkwigr/asciicase.h"
+
+namespace recastor {
+
+namespace {
+
+/// How a line means a variable: a label takes it as the others do.
+enum class Use { kScale, kCategory, kLabel };
+
+struct VariableUse {
+    const ChartVariable* variable;
+    Use use;
+};
+
+bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The case number is a variable that the data need not hold.
+bool IsCaseNumber(const std::string& dataName) {
+    return AsciiLower(dataName) == "$casenum";
+}
+
+std::string MakeGplName(std::string_view base) {
+    std::string name;
+    if (base.empty() || !IsLetter(base.front())) {
+        name = "v_";
+    }
+    for (const char c : base) {
+        name += IsLetter(c) || IsDigit(c) ? c : '_';
+    }
+    return name;
+}
+
+Use UseOf(const ChartDimension& dimension) {
+    return IsCategorical(&dimension) ? Use::kCategory : Use::kScale;
+}
+
+/// Gathers the uses of a chart's variables in the order of their lines.
+class UseList {
+public:
+    explicit UseList(const ChartFacts& facts) {
+        AddPosition(facts);
+        AddAesthetics(facts);
+        for (const ChartVariable& panel : facts.chart.panels) {
+            Add(panel, Use::kCategory);
+        }
+        if (facts.chart.pointLabel && facts.kinds.Has(ElementKind::kScatter)) {
+            Add(*facts.chart.pointLabel, Use::kLabel);
+        }
+        if (facts.chart.caseLabel && facts.kinds.Has(ElementKind::kBox)) {
+            Add(*facts.chart.caseLabel, Use::kLabel);
+        }
+    }
+
+    const std::vector<VariableUse>& Uses() const { return m_uses; }
+
+private:
+    void AddPosition(const ChartFacts& facts) {
+        const ChartModel& chart = facts.chart;
+        if (facts.form == ChartForm::kPie) {
+            if (facts.slice == Find(chart.x1)) {
+                AddDimension(facts.slice);
+            }
+            Add(*facts.measure, Use::kScale);
+            return;
+        }
+        AddDimension(Find(chart.x1));
+        AddDimension(Find(chart.x2));
+        AddDimension(facts.y);
+    }
+
+    /// Fit lines show no aesthetics; one of them may split the lines.
+    void AddAesthetics(const ChartFacts& facts) {
+        const bool shown = !facts.kinds.HasOnly({ElementKind::kFitLine});
+        const bool sizes = facts.kinds.HasAnyOf({ElementKind::kScatter, ElementKind::kLine});
+        const ChartDimension* const color = Find(facts.chart.color);
+        const ChartDimension* const style = Find(facts.chart.style);
+        const ChartDimension* const size = Find(facts.chart.size);
+        AddDimension(shown || color == facts.split ? color : nullptr);
+        AddDimension(shown || style == facts.split ? style : nullptr);
+        AddDimension(sizes || size == facts.split ? size : nullptr);
+    }
+
+    void AddDimension(const ChartDimension* dimension) {
+        if (dimension != nullptr) {
+            Add(dimension->variable, UseOf(*dimension));
+        }
+    }
+
+    void Add(const ChartVariable& variable, Use use) {
+        if (!IsCounted(variable)) {
+            m_uses.push_back({&variable, use});
+        }
+    }
+
+    std::vector<VariableUse> m_uses;
+};
+
+/// How one variable is meant, all its uses taken together.
+struct Meanings {
+    bool scale = false;
+    bool category = false;
+};
+
+} // namespace
+
+std::string GplNames::Take(std::string_view base, std::string_view suffix) {
+    const std::string name = MakeGplName(base).append(suffix);
+    std::string candidate = name;
+    for (int number = 2; !m_taken.insert(AsciiLower(candidate)).second; ++number) {
+        candidate = name + '_' + std::to_string(number);
+    }
+    return candidate;
+}
+
+GplVariables::GplVariables(const ChartFacts& facts) {
+    const UseList list(facts);
+    std::vector<Meanings> meanings;
+    for (const VariableUse& each : list.Uses()) {
+        const std::string& dataName = DataName(*each.variable);
+        const auto [place, isNew] = m_places.emplace(AsciiLower(dataName), m_entries.size());
+        if (isNew) {
+            m_entries.push_back({dataName, {}, {}});
+            meanings.emplace_back();
+        }
+        Meanings& meaning = meanings[place->second];
+        meaning.scale = meaning.scale || each.use == Use::kScale;
+        meaning.category = meaning.category || each.use == Use::kCategory;
+    }
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        Entry& entry = m_entries[i];
+        const std::string base = IsCaseNumber(entry.dataName) ? "casenum" : entry.dataName;
+        if (meanings[i].scale) {
+            entry.scaleName = m_names.Take(base);
+        }
+        if (meanings[i].category || !meanings[i].scale) {
+            entry.categoryName = m_names.Take(base, meanings[i].scale ? "_c" : "");
+        }
+    }
+}
+
+const GplVariables::Entry& GplVariables::EntryOf(const ChartVariable& variable) const {
+    const auto place = m_places.find(AsciiLower(DataName(variable)));
+    ZELK_ASSERT(place != m_places.end());
+    return m_entries[place->second];
+}
+
+const std::string& GplVariables::ScaleName(const ChartVariable& variable) const {
+    return EntryOf(variable).scaleName;
+}
+
+const std::string& GplVariables::CategoryName(const ChartVariable& variable) const {
+    return EntryOf(variable).categoryName;
+}
+
+const std::string& GplVariables::LabelName(const ChartVariable& variable) const {
+    const Entry& entry = EntryOf(variable);
+    return entry.scaleName.empty() ? entry.categoryName : entry.scaleName;
+}
+
+const std::string& GplVariables::NameOf(const ChartDimension& dimension) const {
+    return IsCategorical(&dimension) ? CategoryName(dimension.variable)
+                                     : ScaleName(dimension.variable);
+}
+
+std::string GplVariables::DataNames() const {
+    std::string names;
+    for (const Entry& entry : m_entries) {
+        if (!IsCaseNumber(entry.dataName)) {
+            names += names.empty() ? "" : " ";
+            names += entry.dataName;
+        }
+    }
+    return names;
+}
+
+} // namespace recastor

@@ -1,0 +1,14 @@
+/// Charts that the language allows and GPL cannot draw.
+#pragma once
+
+#include "platform/zelkwigr/chartmodel.h"
+
+#include <string>
+
+namespace recastor {
+
+/// The comment command that says why a valid chart cannot be converted, with its period; empty
+/// when it can.
+std::string WhyChartHasNoGpl(const ChartModel& chart);
+
+} // namespace recastor

@@ -1,0 +1,82 @@
+#include "platform/zelkwigr/gpltext.h"
+
+#include <array>
+#include <charconv>
+
+namespace recastor {
+
+namespace {
+
+void AppendEscaped(std::string& text, std::string_view plain) {
+    for (const char c : plain) {
+        if (c == '"' || c == '\\') {
+            text += '\\';
+        }
+        text += c;
+    }
+}
+
+} // namespace
+
+std::string GplNumber(double value) {
+    if (value == 0) {
+        return "0"; // of either sign
+    }
+    // The largest number has 309 digits, the smallest 324 behind its period.
+    std::array<char, 400> digits{};
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                       std::chars_format::fixed);
+    return {digits.data(), written.ptr};
+}
+
+std::string GplString(std::string_view text) {
+    std::string quoted = "\"";
+    AppendEscaped(quoted, text);
+    return quoted += '"';
+}
+
+std::string GplString(const std::vector<std::string>& lines) {
+    std::string quoted = "\"";
+    const char* separator = "";
+    for (const std::string& line : lines) {
+        quoted += separator;
+        AppendEscaped(quoted, line);
+        separator = "\\n";
+    }
+    return quoted += '"';
+}
+
+std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments) {
+    std::string call(name);
+    call += '(';
+    const char* separator = "";
+    for (const std::string_view argument : arguments) {
+        if (!argument.empty()) {
+            call += separator;
+            call += argument;
+            separator = ", ";
+        }
+    }
+    return call += ')';
+}
+
+std::string GplDimensions(const std::vector<int>& dimensions) {
+    std::string call = "dim(";
+    const char* separator = "";
+    for (const int dimension : dimensions) {
+        call += separator;
+        call += std::to_string(dimension);
+        separator = ",";
+    }
+    return call += ')';
+}
+
+void AppendGplLine(std::string& text, std::string_view keyword, std::string_view statement) {
+    text += ' ';
+    text += keyword;
+    text += ": ";
+    text += statement;
+    text += '\n';
+}
+
+} // namespace recastor

@@ -1,0 +1,30 @@
+/// The smallest pieces of GPL: numbers, strings, function calls, lines.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace recastor {
+
+/// A number in fixed notation: the fewest digits that read back to the same value, without exponent
+/// and without a final period; zero is "0". `value` is finite.
+std::string GplNumber(double value);
+
+/// A string in double quotes; double quotes and backslashes in it are escaped.
+std::string GplString(std::string_view text);
+
+/// Several lines as one string.
+std::string GplString(const std::vector<std::string>& lines);
+
+/// `name(a, b, c)`; an argument that is empty is left out.
+std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments);
+
+/// `dim(1,3)`.
+std::string GplDimensions(const std::vector<int>& dimensions);
+
+/// Appends the line ` KEYWORD: statement` and its line feed.
+void AppendGplLine(std::string& text, std::string_view keyword, std::string_view statement);
+
+} // namespace recastor

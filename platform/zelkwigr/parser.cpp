@@ -1,0 +1,26 @@
+#include "platform/zelkwigr/parser.h"
+
+#include "platform/zelkwigr/completechart.h"
+#include "platform/zelkwigr/parsechart.h"
+#include "platform/zelkwigr/validchart.h"
+
+#include <utility>
+
+namespace recastor {
+
+parser::parser(ProcedureDataSource* /*data*/, FacSTDictionary* /*dictionary*/) {}
+
+bool parser::Parse(TokenSequenceBase& tokens) {
+    return ParseChart(tokens, m_chart);
+}
+
+bool parser::CompleteAndValidateSyntax() {
+    CompleteChart(m_chart);
+    if (!IsValidChart(m_chart)) {
+        return false;
+    }
+    m_settings = iGraphSpec(std::exchange(m_chart, ChartModel()));
+    return true;
+}
+
+} // namespace recastor

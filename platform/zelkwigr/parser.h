@@ -1,0 +1,30 @@
+/// Reads an IGRAPH command.
+#pragma once
+
+#include "platform/zelkwigr/igraphspec.h"
+#include "platform/zelkwigr/opaquetypes.h"
+
+namespace recastor {
+
+class TokenSequenceBase;
+
+/// One parser may read several commands, one after the other: Parse(), then, when that went well,
+/// CompleteAndValidateSyntax(), then GetSettings().
+class parser {
+public:
+    parser(ProcedureDataSource* data, FacSTDictionary* dictionary);
+
+    /// Reads the whole command. `tokens` stands before its first token, the command's name. False
+    /// when it is not written in the language.
+    bool Parse(TokenSequenceBase& tokens);
+    /// Fills in what the command leaves open. False when its parts do not fit together.
+    bool CompleteAndValidateSyntax();
+    /// The graph of the last command that was valid; it belongs to the parser.
+    iGraphSpec* GetSettings() { return &m_settings; }
+
+private:
+    ChartModel m_chart;
+    iGraphSpec m_settings;
+};
+
+} // namespace recastor
