@@ -1,6 +1,6 @@
 # Compiler settings that every target of the project shares: recastor_build_settings(TARGET).
 
-set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g -D_GLIBCXX_ASSERTIONS")
+set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g -D_GLIBCXX_ASSERTIONS -DRECASTOR_OBJECTS_ON_HEAP")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -D_FORTIFY_SOURCE=2 -fstack-protector-strong")
 
 # What users run is placed at random in memory, and its tables of addresses are read-only.

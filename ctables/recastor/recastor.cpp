@@ -132,9 +132,10 @@ bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output) 
 void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset) {
     TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
     command.Reset(tokens);
+    const bool parsed = ParseCommand(command);
+    command.DropTokens();
     std::string result;
-    const bool ok =
-        ParseCommand(command) && ParseTree::TranslateTablesCommand(command.GetParseTree(), result);
+    const bool ok = parsed && ParseTree::TranslateTablesCommand(command.GetParseTree(), result);
     PrintCommand(IDS_STRING_BEGIN_CTABLES_COMMAND, output, 0);
     if (ok) {
         for (const std::string& warning : command.ListWarnings()) {

@@ -43,11 +43,9 @@ private:
 
     static constexpr std::size_t kGranularity = 16;
 
-    /// The sanitizers see a use after free only when the heap is told of it.
-#if defined(__SANITIZE_ADDRESS__)
+    /// Memory checkers see a use after free or a leak only when the heap is told of every block.
+#ifdef RECASTOR_OBJECTS_ON_HEAP
     static constexpr bool kUseHeap = true;
-#elif defined(__has_feature)
-    static constexpr bool kUseHeap = __has_feature(address_sanitizer);
 #else
     static constexpr bool kUseHeap = false;
 #endif
