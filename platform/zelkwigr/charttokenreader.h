@@ -85,6 +85,12 @@ public:
 private:
     using Words = std::vector<std::string_view>;
 
+    /// A word that may be a name: as written, and upper-cased to tell names apart.
+    struct Word {
+        std::string_view spelling;
+        std::string_view upper;
+    };
+
     TokenSequenceBase::TokenType Type() const {
         return m_atEnd ? TokenSequenceBase::kAtEnd : m_tokens.Type();
     }
@@ -92,11 +98,6 @@ private:
         return Type() == TokenSequenceBase::kOperator ? m_tokens.Operator()
                                                       : TokenSequenceBase::kNotOperator;
     }
-    /// A word that may be a name: as written, and upper-cased to tell names apart.
-    struct Word {
-        std::string_view spelling;
-        std::string_view upper;
-    };
 
     std::string_view UpperSpelling() const;
     Word TakeNameWord();

@@ -36,13 +36,14 @@ void ReadType(ChartTokenReader& reader, ChartDimension& dimension) {
     dimension.range = ValueRange();
 }
 
-bool MayHaveRange(ChartTokenReader& reader, const ChartDimension& dimension) {
+/// Steps over the parenthesis that may open a range behind SCALE.
+bool TakeRangeParenthesis(ChartTokenReader& reader, const ChartDimension& dimension) {
     return dimension.type == Measurement::kScale && reader.Take(TokenSequenceBase::kLeftParen);
 }
 
 void ReadAxisType(ChartTokenReader& reader, ChartDimension& dimension) {
     ReadType(reader, dimension);
-    if (MayHaveRange(reader, dimension)) {
+    if (TakeRangeParenthesis(reader, dimension)) {
         ReadRangeInParentheses(reader, dimension.range);
     }
 }
@@ -61,7 +62,7 @@ bool ReadGroupingInParentheses(ChartTokenReader& reader, ChartDimension& dimensi
 /// Behind SCALE a parenthesis opens a range or a grouping.
 void ReadAestheticType(ChartTokenReader& reader, ChartDimension& dimension) {
     ReadType(reader, dimension);
-    if (MayHaveRange(reader, dimension) && !ReadGroupingInParentheses(reader, dimension)) {
+    if (TakeRangeParenthesis(reader, dimension) && !ReadGroupingInParentheses(reader, dimension)) {
         ReadRangeInParentheses(reader, dimension.range);
     }
 }

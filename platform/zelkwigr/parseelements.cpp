@@ -119,24 +119,20 @@ constexpr Option<Box> kBoxOptions[] = {
 
 // ERRORBAR
 
-template <ErrorBar::Extent kExtent>
+template <ErrorBar::Extent kExtent, int kMost>
 void SetExtent(ChartTokenReader& reader, ErrorBar& bar) {
-    constexpr double kMostPercent = 100;
-    constexpr double kMostMultiple = 6;
     bar.extent = kExtent;
     bar.amount = reader.NumberOrInParentheses();
-    reader.Require(bar.amount >= 0 &&
-                   bar.amount <=
-                       (kExtent == ErrorBar::Extent::kConfidence ? kMostPercent : kMostMultiple));
+    reader.Require(bar.amount >= 0 && bar.amount <= kMost);
 }
 
 /// Whether the bar has caps.
 constexpr Keyword<bool> kCapStyles[] = {{"T", true}, {"NONE", false}, {"FANCY", true}};
 
 constexpr Option<ErrorBar> kErrorBarOptions[] = {
-    {"CI", SetExtent<ErrorBar::Extent::kConfidence>},
-    {"SD", SetExtent<ErrorBar::Extent::kDeviations>},
-    {"SE", SetExtent<ErrorBar::Extent::kStandardErrors>},
+    {"CI", SetExtent<ErrorBar::Extent::kConfidence, 100>},
+    {"SD", SetExtent<ErrorBar::Extent::kDeviations, 6>},
+    {"SE", SetExtent<ErrorBar::Extent::kStandardErrors, 6>},
     {"LABEL", SetLabels},
     {"CAPSTYLE",
      [](ChartTokenReader& reader, ErrorBar& bar) { bar.caps = reader.Choice(kCapStyles); }},

@@ -39,8 +39,10 @@ bool IsUsableLook(std::string_view look) {
 
 void ReadViewName(ChartTokenReader& reader, ChartModel& chart) {
     chart.viewName.clear();
+    const char* separator = "";
     for (const std::string& line : reader.Text()) {
-        chart.viewName.append(chart.viewName.empty() ? "" : " ").append(line);
+        chart.viewName.append(separator).append(line);
+        separator = " ";
     }
 }
 

@@ -11,6 +11,7 @@ TEST(ParseViewName, JoinsItsLinesByOneBlank) {
         {"/VIEWNAME='Plot'", "viewname \"Plot\""},
         {"/VIEWNAME 'Plot' 'two'", "viewname \"Plot two\""},
         {"/VIEWNAME=''", ""},
+        {"/VIEWNAME='' 'two'", "viewname \" two\""},
         {"/VIEWNAME='old' 'one' /VIEWNAME='new'", "viewname \"new\""},
     });
     ExpectErrors({"/VIEWNAME", "/VIEWNAME=", "/VIEWNAME=Plot", "/VIEWNAME='a' b", "/VIEWNAME=1"});
