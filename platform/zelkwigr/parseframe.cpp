@@ -1,9 +1,7 @@
 #include "platform/zelkwigr/parseframe.h"
 
+#include "platform/zelkwigr/asciicase.h"
 #include "platform/zelkwigr/chartoptions.h"
-
-#include <algorithm>
-#include <string_view>
 
 namespace recastor {
 
@@ -18,21 +16,10 @@ constexpr Keyword<Coordinate> kCoordinates[] = {
 /// Whether the chart only looks three-dimensional.
 constexpr Keyword<bool> kEffects[] = {{"NONE", false}, {"THREE", true}};
 
-/// Compares with an upper-cased text, without regard to ASCII case.
-bool EqualsUpper(std::string_view text, std::string_view upper) {
-    return std::equal(text.begin(), text.end(), upper.begin(), upper.end(), [](char a, char b) {
-        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
-    });
-}
-
 /// Whether a look can be given to the new chart: files of the old format cannot be read there.
-bool IsUsableLook(std::string_view look) {
-    constexpr std::string_view kOldExtension = ".CLO";
-    if (look.empty() || EqualsUpper(look, "NONE")) {
-        return false;
-    }
-    return look.size() < kOldExtension.size() ||
-           !EqualsUpper(look.substr(look.size() - kOldExtension.size()), kOldExtension);
+bool IsUsableLook(const std::string& look) {
+    const std::string name = AsciiLower(look);
+    return !name.empty() && name != "none" && !name.ends_with(".clo");
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // What holds for a command as a whole: slashes, abbreviations, names, repetition.
 
 #include "ctables/recastor/zelktokensequence.h"
-#include "platform/zelkmb/zelkmb.h"
 #include "platform/zelkwigr/chartmodel.h"
 #include "platform/zelkwigr/parsechart.h"
 #include "tests/support/dump.h"
+#include "tests/support/textlocale.h"
 #include "tests/unit/chart_rows.h"
 
 #include <memory>
@@ -130,7 +130,7 @@ TEST(ParseChart, WritesANameAsItWasFirstSpelled) {
 }
 
 TEST(ParseChart, LooksAtTheCaseOfLettersBesideAscii) {
-    EnableLocale();
+    const TextLocale locale("C.UTF-8");
     ExpectParsed({
         {"/PANEL \xc3\xa9t\xc3\xa9 \xc3\xa9T\xc3\xa9 \xc3\x89t\xc3\xa9",
          "panel \xc3\xa9t\xc3\xa9 \xc3\x89t\xc3\xa9"},

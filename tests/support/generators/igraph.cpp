@@ -1,6 +1,7 @@
 #include "tests/support/generators/igraph.h"
 
 #include "tests/support/generators/igraphforms.h"
+#include "tests/support/generators/words.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -14,7 +15,6 @@ namespace {
 
 /// So many choices are made for one command; behind them the first alternative is always taken.
 constexpr int kChoices = 400;
-constexpr int kFullSize = 100;
 
 /// What decides, drawn in advance, so that rapidcheck makes a command smaller by making numbers
 /// smaller: the first alternative is the plainest.
@@ -316,14 +316,6 @@ void Mangle(Choices& choices, std::vector<std::string>& words) {
     }
 }
 
-std::string Joined(const std::vector<std::string>& words) {
-    std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
-    }
-    return text;
-}
-
 } // namespace
 
 std::vector<std::string> IgraphWords(const IgraphCommand& command) {
@@ -342,7 +334,7 @@ std::vector<std::string> IgraphWords(const IgraphCommand& command) {
 }
 
 std::string IgraphText(const IgraphCommand& command) {
-    return Joined(IgraphWords(command));
+    return Join(IgraphWords(command), " ");
 }
 
 std::ostream& operator<<(std::ostream& out, const IgraphCommand& command) {
@@ -372,7 +364,7 @@ rc::Gen<std::string> MangledIgraphs(const IgraphCommand& command) {
         for (std::size_t count = 1 + choices.Below(kMost); count > 0 && !words.empty(); --count) {
             Mangle(choices, words);
         }
-        return Joined(words);
+        return Join(words, " ");
     });
 }
 
