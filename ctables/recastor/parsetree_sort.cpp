@@ -52,7 +52,7 @@ public:
             }
         }
     }
-    bool Has(const std::string& name) const { return m_names.count(name) != 0; }
+    bool Has(const std::string& name) const { return m_names.contains(name); }
 
 private:
     std::unordered_set<std::string_view> m_names; ///< the texts are the tokens' own
