@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <elf.h>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,20 +32,19 @@ protected:
         return record;
     }
 
-    const Elf64_Phdr* Segment(unsigned type) const {
+    std::optional<Elf64_Phdr> Segment(unsigned type) const {
         for (const Elf64_Phdr& segment : m_segments) {
             if (segment.p_type == type) {
-                return &segment;
+                return segment;
             }
         }
-        return nullptr;
+        return std::nullopt;
     }
 
     Elf64_Xword DynamicFlags() const {
-        const Elf64_Phdr* const dynamic = Segment(PT_DYNAMIC);
-        for (std::size_t at = 0; dynamic != nullptr && at < dynamic->p_filesz;
-             at += sizeof(Elf64_Dyn)) {
-            const auto entry = At<Elf64_Dyn>(dynamic->p_offset + at);
+        const Elf64_Phdr dynamic = Segment(PT_DYNAMIC).value_or(Elf64_Phdr{});
+        for (std::size_t at = 0; at < dynamic.p_filesz; at += sizeof(Elf64_Dyn)) {
+            const auto entry = At<Elf64_Dyn>(dynamic.p_offset + at);
             if (entry.d_tag == DT_FLAGS) {
                 return entry.d_un.d_val;
             }
@@ -65,13 +65,14 @@ TEST_F(Hardening, TheProgramIsPlacedAtRandom) {
 }
 
 TEST_F(Hardening, TheTablesOfAddressesAreReadOnly) {
-    EXPECT_NE(nullptr, Segment(PT_GNU_RELRO));
+    EXPECT_TRUE(Segment(PT_GNU_RELRO));
     EXPECT_TRUE(DynamicFlags() & DF_BIND_NOW);
 }
 
 TEST_F(Hardening, TheStackIsNotExecutable) {
-    ASSERT_NE(nullptr, Segment(PT_GNU_STACK));
-    EXPECT_FALSE(Segment(PT_GNU_STACK)->p_flags & PF_X);
+    const auto stack = Segment(PT_GNU_STACK);
+    EXPECT_TRUE(stack);
+    EXPECT_FALSE(stack.value_or(Elf64_Phdr{}).p_flags & PF_X);
 }
 
 } // namespace
