@@ -40,7 +40,10 @@ private:
             m_ascii[code] = !holdsListed;
         }
         for (const char c : listed) {
-            m_ascii[static_cast<unsigned char>(c)] = holdsListed;
+            const auto code = static_cast<unsigned char>(c);
+            if (code > 0 && code < kAsciiEnd) {
+                m_ascii[code] = holdsListed;
+            }
         }
     }
 

@@ -2,6 +2,7 @@
 
 #include "ctables/recastor/commandline.h"
 #include "platform/zelkmb/zelkmb.h"
+#include "tests/support/memoryfile.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -43,14 +44,12 @@ std::size_t BehindLine(const std::string& text, const std::string& start) {
 } // namespace
 
 std::string ConvertText(const std::string& input, bool batch) {
-    const TemporaryFolder folder;
-    const fs::path inputFile = folder.Path() / "input.syn";
-    const fs::path outputFile = folder.Path() / "output.syn";
-    WriteFile(inputFile, input);
+    const MemoryFile inputFile(input);
+    const MemoryFile outputFile("");
     const CapturedStreams silence;
     EnableLocale();
-    RunConversion({batch, inputFile.string(), outputFile.string()});
-    return ReadFile(outputFile);
+    RunConversion({batch, inputFile.Name(), outputFile.Name()});
+    return outputFile.Content();
 }
 
 std::string ConvertTables(const std::string& command) {

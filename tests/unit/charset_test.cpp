@@ -56,8 +56,13 @@ TEST(CharSet, PredicateIsAskedForEveryAsciiCharacterAndOnceBeyond) {
     EXPECT_FALSE(HasBeyondAscii(lower));
 }
 
+TEST(CharSet, BytesBeyondAsciiCannotBeListed) {
+    EXPECT_FALSE(HasBeyondAscii(CharSet::Of("a\xE9")));
+    EXPECT_TRUE(HasBeyondAscii(CharSet::AllBut("a\xE9")));
+}
+
 TEST(CharSet, EndIsNeverAMember) {
-    EXPECT_FALSE(CharSet::Of(std::string_view("\0a", 2)).Has('b'));
+    EXPECT_EQ(AsciiOf(CharSet::Of(std::string_view("\0a", 2))), "a");
     EXPECT_FALSE(CharSet::AllBut("x").Has(0));
     EXPECT_FALSE(CharSet::Where([](int) { return true; }).Has(0));
 }

@@ -169,9 +169,10 @@ TEST_F(Scan, CheckPassesWhatIsMadeOfTokens) {
 TEST_F(Scan, CheckFindsTheErrorsOfTheTokenizerAtTheirPlaces) {
     for (const std::string& text :
          {std::string("a 'b"), std::string("a\n 'b\nc"), std::string("'a'+b"), std::string("1e"),
-          std::string("a\n\n12.5E+ "), std::string("0x1A"), std::string("1e999"),
-          std::string(310, '9'), std::string(400, '9') + ".5", std::string("a\r\n `"),
-          std::string("\u00E9 \\"), std::string("a \x01"), std::string("'a'\n b ^")}) {
+          std::string("a\n\n12.5E+ "), std::string("0x1A"), std::string("0X1"),
+          std::string("1e999"), std::string(310, '9'), std::string(400, '9') + ".5",
+          std::string("a\r\n `"), std::string("\u00E9 \\"), std::string("a \x01"),
+          std::string("'a'\n b ^")}) {
         EXPECT_EQ(Verdict(text), DumpTokens(text)) << text;
         EXPECT_TRUE(Verdict(text).starts_with("error ")) << text;
     }

@@ -21,6 +21,7 @@ TEST(Format, TypesOneAndTwoAreTheStringFormats) {
 }
 
 TEST(Format, WidthOfFortyIsTheLargestOfANumber) {
+    EXPECT_EQ(ZELK_Format(ZELK_Format::kNumericFormat, 39, 0).Width(), 39);
     EXPECT_EQ(ZELK_Format(ZELK_Format::kNumericFormat, 40, 0).Width(), 40);
     EXPECT_EQ(ZELK_Format(ZELK_Format::kNumericFormat, 41, 0).Width(), 40);
     EXPECT_EQ(ZELK_Format(ZELK_Format::kStringFormat, 41, 0).Width(), 41);

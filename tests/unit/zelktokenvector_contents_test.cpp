@@ -52,6 +52,12 @@ TEST_F(TokenVectorContents, AssignmentReplacesTheTokens) {
     EXPECT_NE(&target[0], &source[0]);
 }
 
+TEST_F(TokenVectorContents, AssignmentTakesTheCommandStateToo) {
+    ZELKTokenVector target("* x", false, 0);
+    target = ZELKTokenVector("BEGIN DATA", false, 0);
+    EXPECT_EQ(target.TypeOfCommand(), kStateInlineData);
+}
+
 TEST_F(TokenVectorContents, AssignmentToItselfChangesNothing) {
     ZELKTokenVector tokens("a b", false, 0);
     const ZELKTokenVector& same = tokens;
