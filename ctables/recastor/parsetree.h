@@ -133,10 +133,10 @@ public:
     /// Distributes the nesting over its stacking operand at `reduceIndex`: that operand and the
     /// one beside it become one stacking of nestings.
     static void MergePlusNode(TbTrParseNode& subtree, unsigned reduceIndex);
-    /// A copy, the caller's, without any stacking inside a nesting; null for null.
     /// The number of variables in the multiplied-out expression, each counted as often as it
     /// stands there. A number that is beyond counting is infinite.
     static double MultipliedOutSize(const TbTrParseNode& expression);
+    /// A copy, the caller's, without any stacking inside a nesting; null for null.
     static TbTrParseNode::NodePtr MultiplyOut(const TbTrParseNode* expression);
     /// Takes the pseudo-variables STATISTICS (or LABELS) out of the table. The dimension where one
     /// stood; 4 when they stood in several, 0 when there was none.
