@@ -1,7 +1,9 @@
 /// Letters of ASCII, whatever the locale.
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
@@ -14,6 +16,12 @@ inline std::string AsciiLower(std::string text) {
         c = AsciiLower(c);
     }
     return text;
+}
+
+/// True when the texts differ in the case of letters at most.
+inline bool EqualWithoutCase(std::string_view left, std::string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return AsciiLower(a) == AsciiLower(b); });
 }
 
 } // namespace recastor

@@ -177,10 +177,7 @@ bool IsCategorical(const ChartDimension* dimension) {
 }
 
 bool IsSameVariable(const ChartVariable& left, const ChartVariable& right) {
-    const std::string& l = DataName(left);
-    const std::string& r = DataName(right);
-    return std::equal(l.begin(), l.end(), r.begin(), r.end(),
-                      [](char a, char b) { return AsciiLower(a) == AsciiLower(b); });
+    return EqualWithoutCase(DataName(left), DataName(right));
 }
 
 const std::string& DataName(const ChartVariable& variable) {

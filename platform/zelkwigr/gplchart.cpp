@@ -25,7 +25,8 @@ struct FunctionFinder {
 
 } // namespace
 
-GplChart::GplChart(const ChartModel& chart) : m_facts(chart), m_variables(m_facts) {
+GplChart::GplChart(const ChartModel& chart, const GplVariables& variables) :
+    m_facts(chart), m_variables(variables) {
     NameMeasure();
     LayOutAlgebra();
     Compute();
@@ -88,7 +89,6 @@ void GplChart::LayOutAlgebra() {
 }
 
 void GplChart::Compute() {
-    GplNames names = m_variables.Names();
     for (const ChartElement* element : m_facts.drawn) {
         const auto* const function = std::visit(FunctionFinder(), *element);
         if (function == nullptr || m_measure.empty()) {
@@ -97,7 +97,7 @@ void GplChart::Compute() {
         std::string expression = SummaryExpression(FunctionOf(*function), m_measure);
         if (!expression.empty() && m_computedPlaces.emplace(expression, m_computed.size()).second) {
             const std::string base = 't' + std::to_string(m_computed.size() + 1);
-            m_computed.emplace_back(names.Take(base), std::move(expression));
+            m_computed.emplace_back(m_variables.Names().Free(base), std::move(expression));
         }
     }
 }

@@ -12,10 +12,10 @@
 
 namespace recastor {
 
-/// A chart that has a GPL form; it outlives what is made of it.
+/// A chart that has a GPL form, with the names of its variables; both outlive what is made of them.
 class GplChart {
 public:
-    explicit GplChart(const ChartModel& chart);
+    GplChart(const ChartModel& chart, const GplVariables& variables);
 
     const ChartFacts& Facts() const { return m_facts; }
     const GplVariables& Variables() const { return m_variables; }
@@ -39,7 +39,7 @@ private:
     void Compute();
 
     ChartFacts m_facts;
-    GplVariables m_variables;
+    const GplVariables& m_variables;
     std::string m_measure;
     std::string m_beforeMeasure; ///< the algebra's factors, each with its asterisk
     std::string m_behindMeasure;

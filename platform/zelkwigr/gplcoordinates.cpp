@@ -63,7 +63,7 @@ bool WrapsPanels(const ChartFacts& facts) {
 void AppendCoordinateLine(const GplChart& chart, std::string& text) {
     const std::string coordinates = Coordinates(chart.Facts());
     if (!coordinates.empty()) {
-        AppendGplLine(text, "COORD", coordinates);
+        AppendGplLine(text, "COORD", {coordinates});
     }
 }
 

@@ -7,6 +7,9 @@ namespace recastor {
 
 namespace {
 
+/// Few blocks have more bytes.
+constexpr std::size_t kUsualSize = 1'024;
+
 /// The page's size in inches, where both sides are given; empty otherwise.
 std::string PageBegin(const ChartModel& chart) {
     if (!chart.x1Length || !chart.yLength) {
@@ -19,12 +22,14 @@ std::string PageBegin(const ChartModel& chart) {
 
 } // namespace
 
-std::string WriteGpl(const ChartModel& chart) {
-    const GplChart named(chart);
+std::string WriteGpl(const ChartModel& chart, const GplVariables& variables) {
+    const GplChart named(chart, variables);
     const std::string page = PageBegin(chart);
-    std::string text = "\n";
+    std::string text;
+    text.reserve(kUsualSize);
+    text += '\n';
     if (!page.empty()) {
-        AppendGplLine(text, "PAGE", page);
+        AppendGplLine(text, "PAGE", {page});
     }
     AppendDataLines(named, text);
     AppendCoordinateLine(named, text);
@@ -32,7 +37,7 @@ std::string WriteGpl(const ChartModel& chart) {
     AppendScaleLines(named, text);
     AppendElementLines(named, text);
     if (!page.empty()) {
-        AppendGplLine(text, "PAGE", "end()");
+        AppendGplLine(text, "PAGE", {"end()"});
     }
     return text;
 }
@@ -42,7 +47,8 @@ gplGenerator::gplGenerator(iGraphSpec& spec, const ZELK_DataSource* /*data*/,
     m_spec(spec) {}
 
 std::string gplGenerator::getGPL() const {
-    return m_spec.errorMessage().empty() ? WriteGpl(m_spec.Chart()) : std::string();
+    return m_spec.errorMessage().empty() ? WriteGpl(m_spec.Chart(), m_spec.Variables())
+                                         : std::string();
 }
 
 } // namespace recastor

@@ -70,7 +70,7 @@ std::string YTitle(const ChartFacts& facts) {
 }
 
 void AppendAxis(int dimension, const std::string& title, const char* place, std::string& text) {
-    AppendGplLine(text, "GUIDE", GplCall("axis", {GplDimensions({dimension}), title, place}));
+    AppendGplLine(text, "GUIDE", {GplCall("axis", {GplDimensions({dimension}), title, place})});
 }
 
 void AppendAxes(const ChartFacts& facts, std::string& text) {
@@ -97,8 +97,7 @@ void AppendLegends(const ChartFacts& facts, std::string& text) {
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const ChartDimension& dimension = *shown.dimension;
         const std::string title = dimension.legend ? Label(TitleOrName(dimension)) : "null()";
-        AppendGplLine(text, "GUIDE",
-                      GplCall("legend", {GplCall("aesthetic", {shown.name}), title}));
+        AppendGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), ", title, ")"});
     }
 }
 
@@ -114,7 +113,7 @@ void AppendTexts(const ChartModel& chart, std::string& text) {
     for (const auto& row : rows) {
         const std::string string = GplString(row.lines);
         if (string != "\"\"") {
-            AppendGplLine(text, "GUIDE", GplCall(row.guide, {Label(string)}));
+            AppendGplLine(text, "GUIDE", {row.guide, "(label(", string, "))"});
         }
     }
 }
@@ -140,7 +139,7 @@ void AppendReferenceLines(const ChartFacts& facts, std::string& text) {
         const std::string position = LinePosition(facts, line);
         if (!position.empty()) {
             const std::string label = line.label ? Label(GplString(GplNumber(line.value))) : "";
-            AppendGplLine(text, "GUIDE", GplCall("form.line", {position, label}));
+            AppendGplLine(text, "GUIDE", {GplCall("form.line", {position, label})});
         }
     }
 }

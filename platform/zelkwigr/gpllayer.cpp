@@ -60,10 +60,10 @@ std::string AlphaOfPercent(double percent) {
 
 void AppendLayer(const Layer& layer, std::string& text) {
     const std::string position = GplCall("position", {layer.position});
-    AppendGplLine(
-        text, "ELEMENT",
+    const std::string element =
         GplCall(layer.kind, {position, layer.color, layer.surface, layer.size, layer.split,
-                             layer.labels, layer.shape, layer.jump, layer.missing}));
+                             layer.labels, layer.shape, layer.jump, layer.missing});
+    AppendGplLine(text, "ELEMENT", {element});
 }
 
 } // namespace recastor

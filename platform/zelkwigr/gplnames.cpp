@@ -3,6 +3,8 @@
 #include "platform/zelkbase/zelkassert.h"
 #include "platform/zelkwigr/asciicase.h"
 
+#include <algorithm>
+
 namespace recastor {
 
 namespace {
@@ -23,9 +25,11 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+const std::string kCaseNumberBase = "casenum";
+
 /// The case number is a variable that the data need not hold.
 bool IsCaseNumber(const std::string& dataName) {
-    return AsciiLower(dataName) == "$casenum";
+    return EqualWithoutCase(dataName, "$casenum");
 }
 
 std::string MakeGplName(std::string_view base) {
@@ -104,53 +108,66 @@ private:
     std::vector<VariableUse> m_uses;
 };
 
-/// How one variable is meant, all its uses taken together.
-struct Meanings {
-    bool scale = false;
-    bool category = false;
-};
-
 } // namespace
 
-std::string GplNames::Take(std::string_view base, std::string_view suffix) {
+std::string GplNames::Free(std::string_view base, std::string_view suffix) const {
     const std::string name = MakeGplName(base).append(suffix);
     std::string candidate = name;
-    for (int number = 2; !m_taken.insert(AsciiLower(candidate)).second; ++number) {
+    const auto isCandidate = [&](const std::string& taken) {
+        return EqualWithoutCase(taken, candidate);
+    };
+    for (int number = 2; std::any_of(m_taken.begin(), m_taken.end(), isCandidate); ++number) {
         candidate = name + '_' + std::to_string(number);
     }
     return candidate;
 }
 
+std::string GplNames::Take(std::string_view base, std::string_view suffix) {
+    m_taken.push_back(Free(base, suffix));
+    return m_taken.back();
+}
+
+bool NamesVariables(const ChartFacts& facts) {
+    const UseList list(facts);
+    return std::any_of(list.Uses().begin(), list.Uses().end(), [](const VariableUse& each) {
+        return !IsCaseNumber(DataName(*each.variable));
+    });
+}
+
 GplVariables::GplVariables(const ChartFacts& facts) {
     const UseList list(facts);
-    std::vector<Meanings> meanings;
-    for (const VariableUse& each : list.Uses()) {
-        const std::string& dataName = DataName(*each.variable);
-        const auto [place, isNew] = m_places.emplace(AsciiLower(dataName), m_entries.size());
-        if (isNew) {
-            m_entries.push_back({dataName, {}, {}});
-            meanings.emplace_back();
+    const std::vector<VariableUse>& uses = list.Uses();
+    for (auto use = uses.begin(); use != uses.end(); ++use) {
+        const auto isSame = [&](const VariableUse& other) {
+            return IsSameVariable(*other.variable, *use->variable);
+        };
+        const auto isMeantAs = [&](Use meaning) {
+            return std::any_of(use, uses.end(), [&](const VariableUse& other) {
+                return other.use == meaning && isSame(other);
+            });
+        };
+        if (std::any_of(uses.begin(), use, isSame)) {
+            continue;
         }
-        Meanings& meaning = meanings[place->second];
-        meaning.scale = meaning.scale || each.use == Use::kScale;
-        meaning.category = meaning.category || each.use == Use::kCategory;
-    }
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        Entry& entry = m_entries[i];
-        const std::string base = IsCaseNumber(entry.dataName) ? "casenum" : entry.dataName;
-        if (meanings[i].scale) {
+        const std::string& dataName = DataName(*use->variable);
+        const std::string& base = IsCaseNumber(dataName) ? kCaseNumberBase : dataName;
+        Entry& entry = m_entries.emplace_back(Entry{dataName, {}, {}});
+        const bool isScale = isMeantAs(Use::kScale);
+        if (isScale) {
             entry.scaleName = m_names.Take(base);
         }
-        if (meanings[i].category || !meanings[i].scale) {
-            entry.categoryName = m_names.Take(base, meanings[i].scale ? "_c" : "");
+        if (!isScale || isMeantAs(Use::kCategory)) {
+            entry.categoryName = m_names.Take(base, isScale ? "_c" : "");
         }
     }
 }
 
 const GplVariables::Entry& GplVariables::EntryOf(const ChartVariable& variable) const {
-    const auto place = m_places.find(AsciiLower(DataName(variable)));
-    ZELK_ASSERT(place != m_places.end());
-    return m_entries[place->second];
+    const auto entry = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& each) {
+        return EqualWithoutCase(each.dataName, DataName(variable));
+    });
+    ZELK_ASSERT(entry != m_entries.end());
+    return *entry;
 }
 
 const std::string& GplVariables::ScaleName(const ChartVariable& variable) const {

@@ -5,24 +5,29 @@
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace recastor {
 
-/// Gives out names that GPL can hold, each once without regard to case. The source's own name is
-/// taken from the beginning.
+/// The few names that the variables of one chart have. They differ without regard to case, and the
+/// source's own name is one of them.
 class GplNames {
 public:
     /// `base` made a GPL name, with `suffix` behind it, and `_2`, `_3`, ... when that is taken.
+    std::string Free(std::string_view base, std::string_view suffix = {}) const;
+
+    /// The same; the name is taken from then on.
     std::string Take(std::string_view base, std::string_view suffix = {});
 
 private:
-    std::unordered_set<std::string> m_taken{"s"}; ///< in lower case
+    std::vector<std::string> m_taken{"s"};
 };
 
-/// The variables that the lines of a block name, each by its GPL names.
+/// True when a chart's lines name a variable that the data must hold.
+bool NamesVariables(const ChartFacts& facts);
+
+/// The variables that the lines of a block name, each by its GPL names; a chart that has a GPL form
+/// has few.
 class GplVariables {
 public:
     /// One variable of the data. It may be meant as scale, as category or as both.
@@ -32,7 +37,7 @@ public:
         std::string categoryName; ///< empty when it is not meant so
     };
 
-    /// The variables of a chart that has a GPL form.
+    GplVariables() = default;
     explicit GplVariables(const ChartFacts& facts);
 
     /// In the order of their lines.
@@ -47,14 +52,13 @@ public:
     /// The variables that the data must hold, in their own spelling, one blank between.
     std::string DataNames() const;
 
-    /// The names taken, for those who add to them.
+    /// The names taken.
     const GplNames& Names() const { return m_names; }
 
 private:
     const Entry& EntryOf(const ChartVariable& variable) const;
 
     std::vector<Entry> m_entries;
-    std::unordered_map<std::string, std::size_t> m_places; ///< by name in lower case
     GplNames m_names;
 };
 

@@ -114,7 +114,7 @@ Finding NothingDrawn(const ChartFacts& facts) {
 }
 
 Finding NoVariable(const ChartFacts& facts) {
-    return FoundIf(GplVariables(facts).DataNames().empty());
+    return FoundIf(!NamesVariables(facts));
 }
 
 /// @ stands for the keyword of the element that was found, # for its plural.
@@ -160,8 +160,7 @@ std::string Filled(std::string_view text, const ElementWords& element) {
 
 } // namespace
 
-std::string WhyChartHasNoGpl(const ChartModel& chart) {
-    const ChartFacts facts(chart);
+std::string WhyChartHasNoGpl(const ChartFacts& facts) {
     for (const ObstacleRow& row : kObstacles) {
         if (const Finding element = row.find(facts)) {
             return "*IGRAPH command " + Filled(row.what, *element) +

@@ -1,7 +1,7 @@
 /// Charts that the language allows and GPL cannot draw.
 #pragma once
 
-#include "platform/zelkwigr/chartmodel.h"
+#include "platform/zelkwigr/chartfacts.h"
 
 #include <string>
 
@@ -9,6 +9,6 @@ namespace recastor {
 
 /// The comment command that says why a valid chart cannot be converted, with its period; empty
 /// when it can.
-std::string WhyChartHasNoGpl(const ChartModel& chart);
+std::string WhyChartHasNoGpl(const ChartFacts& facts);
 
 } // namespace recastor

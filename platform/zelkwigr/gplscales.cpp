@@ -4,8 +4,9 @@
 #include "platform/zelkwigr/gpllines.h"
 #include "platform/zelkwigr/gpltext.h"
 
-#include <map>
+#include <algorithm>
 #include <variant>
+#include <vector>
 
 namespace recastor {
 
@@ -20,10 +21,8 @@ struct Scale {
 };
 
 void AppendScale(const std::string& place, const Scale& scale, std::string& text) {
-    if (scale.function != nullptr) {
-        const auto call = GplCall(scale.function, {place, scale.first, scale.second, scale.third});
-        AppendGplLine(text, "SCALE", call);
-    }
+    const auto call = GplCall(scale.function, {place, scale.first, scale.second, scale.third});
+    AppendGplLine(text, "SCALE", {call});
 }
 
 Scale CategoryScale(const ChartModel& chart, const ChartVariable& variable) {
@@ -108,30 +107,37 @@ Scale PieScale(const ChartFacts& facts) {
     return {"linear", "dataMinimum()", "dataMaximum()", pie.counterClockwise ? "reverse()" : ""};
 }
 
-/// The scales of the dimensions that the axes and panels take up, by their numbers.
-std::map<int, Scale> DimensionScales(const ChartFacts& facts) {
+struct DimensionScale {
+    int dimension;
+    Scale scale;
+};
+
+/// The scales of the dimensions that axes and panels take up, by their numbers.
+std::vector<DimensionScale> DimensionScales(const ChartFacts& facts) {
     const ChartModel& chart = facts.chart;
     const DimensionNumbers& dimensions = facts.dimensions;
-    std::map<int, Scale> scales;
+    std::vector<DimensionScale> scales;
     if (facts.form == ChartForm::kPie) {
-        scales[dimensions.measure] = PieScale(facts);
+        scales.push_back({dimensions.measure, PieScale(facts)});
     } else {
-        scales[dimensions.measure] = YScale(facts);
+        scales.push_back({dimensions.measure, YScale(facts)});
         if (chart.x1) {
-            scales[dimensions.x1] = ScaleOf(chart, *chart.x1);
+            scales.push_back({dimensions.x1, ScaleOf(chart, *chart.x1)});
         }
         if (chart.x2) {
-            scales[dimensions.x2] = ScaleOf(chart, *chart.x2);
+            scales.push_back({dimensions.x2, ScaleOf(chart, *chart.x2)});
         }
         if (facts.form == ChartForm::kClustered) {
-            scales[dimensions.cluster] = ScaleOf(chart, *facts.cluster);
+            scales.push_back({dimensions.cluster, ScaleOf(chart, *facts.cluster)});
         }
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : chart.panels) {
-        scales[panelDimension] = CategoryScale(chart, panel);
+        scales.push_back({panelDimension, CategoryScale(chart, panel)});
         ++panelDimension;
     }
+    std::sort(scales.begin(), scales.end(),
+              [](const auto& left, const auto& right) { return left.dimension < right.dimension; });
     return scales;
 }
 
@@ -140,11 +146,15 @@ std::map<int, Scale> DimensionScales(const ChartFacts& facts) {
 void AppendScaleLines(const GplChart& chart, std::string& text) {
     const ChartFacts& facts = chart.Facts();
     for (const auto& [dimension, scale] : DimensionScales(facts)) {
-        AppendScale(GplDimensions({dimension}), scale, text);
+        if (scale.function != nullptr) {
+            AppendScale(GplDimensions({dimension}), scale, text);
+        }
     }
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
-        AppendScale(GplCall("aesthetic", {shown.name}), ScaleOf(facts.chart, *shown.dimension),
-                    text);
+        const Scale scale = ScaleOf(facts.chart, *shown.dimension);
+        if (scale.function != nullptr) {
+            AppendScale(GplCall("aesthetic", {shown.name}), scale, text);
+        }
     }
 }
 

@@ -30,7 +30,9 @@ std::string GplNumber(double value) {
 }
 
 std::string GplString(std::string_view text) {
-    std::string quoted = "\"";
+    std::string quoted;
+    quoted.reserve(text.size() + std::string_view("\"\"").size());
+    quoted += '"';
     AppendEscaped(quoted, text);
     return quoted += '"';
 }
@@ -47,7 +49,13 @@ std::string GplString(const std::vector<std::string>& lines) {
 }
 
 std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments) {
-    std::string call(name);
+    std::size_t size = name.size() + std::string_view("()").size();
+    for (const std::string_view argument : arguments) {
+        size += argument.size() + std::string_view(", ").size();
+    }
+    std::string call;
+    call.reserve(size);
+    call += name;
     call += '(';
     const char* separator = "";
     for (const std::string_view argument : arguments) {
@@ -71,11 +79,14 @@ std::string GplDimensions(const std::vector<int>& dimensions) {
     return call += ')';
 }
 
-void AppendGplLine(std::string& text, std::string_view keyword, std::string_view statement) {
+void AppendGplLine(std::string& text, std::string_view keyword,
+                   std::initializer_list<std::string_view> statement) {
     text += ' ';
     text += keyword;
     text += ": ";
-    text += statement;
+    for (const std::string_view piece : statement) {
+        text += piece;
+    }
     text += '\n';
 }
 

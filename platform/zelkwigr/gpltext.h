@@ -24,7 +24,8 @@ std::string GplCall(std::string_view name, std::initializer_list<std::string_vie
 /// `dim(1,3)`.
 std::string GplDimensions(const std::vector<int>& dimensions);
 
-/// Appends the line ` KEYWORD: statement` and its line feed.
-void AppendGplLine(std::string& text, std::string_view keyword, std::string_view statement);
+/// Appends the line ` KEYWORD: statement` and its line feed; the statement comes in pieces.
+void AppendGplLine(std::string& text, std::string_view keyword,
+                   std::initializer_list<std::string_view> statement);
 
 } // namespace recastor

@@ -3,6 +3,7 @@
 
 #include "platform/zelkwggr/graphspec.h"
 #include "platform/zelkwigr/chartmodel.h"
+#include "platform/zelkwigr/gplnames.h"
 
 #include <string>
 #include <vector>
@@ -21,18 +22,20 @@ public:
     /// The chart's title in lists; empty when it has none.
     std::string getViewName() const { return m_chart.viewName; }
     /// The variables that the data must hold, one blank between.
-    std::string getUsedVarName() const { return m_usedVarName; }
+    std::string getUsedVarName() const { return m_variables.DataNames(); }
     std::vector<std::string> getChartLooks() const { return m_chart.chartLooks; }
     /// Why there is no GPL for this chart: a comment command. Empty when there is.
     std::string errorMessage() const { return m_errorMessage; }
 
     const ChartModel& Chart() const { return m_chart; }
+    /// The variables that the GPL names; none when there is no GPL.
+    const GplVariables& Variables() const { return m_variables; }
 
 private:
     ChartModel m_chart;
     GraphSpec m_graphSpec;
     std::string m_errorMessage;
-    std::string m_usedVarName;
+    GplVariables m_variables;
 };
 
 } // namespace recastor

@@ -116,9 +116,13 @@ ChartModel PieChart() {
     return chart;
 }
 
+std::string GplText(const ChartModel& chart) {
+    return WriteGpl(chart, GplVariables(ChartFacts(chart)));
+}
+
 std::vector<std::string> GplLines(const ChartModel& chart, const std::string& keyword) {
     const std::string opening = ' ' + keyword + ": ";
-    std::istringstream text(WriteGpl(chart));
+    std::istringstream text(GplText(chart));
     std::vector<std::string> lines;
     for (std::string line; std::getline(text, line);) {
         if (line.starts_with(opening)) {

@@ -38,6 +38,9 @@ ChartModel ChartOf(const ChartElement& element);
 /// A pie of the sums of y that slices by the variable c.
 ChartModel PieChart();
 
+/// The whole GPL block.
+std::string GplText(const ChartModel& chart);
+
 /// The GPL lines that begin with `keyword` ("GUIDE"), without it.
 std::vector<std::string> GplLines(const ChartModel& chart, const std::string& keyword);
 

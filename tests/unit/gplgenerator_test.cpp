@@ -36,7 +36,7 @@ TEST(WriteGpl, PointsWithAFitLineOnAPage) {
     chart.x1Length = 5;
     chart.yLength = 3;
     chart.elements = {fitLine, Scatter()};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_fit_line_and_points_on_a_page"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_fit_line_and_points_on_a_page"));
 }
 
 TEST(WriteGpl, ClusteredBarsThatLie) {
@@ -49,7 +49,7 @@ TEST(WriteGpl, ClusteredBarsThatLie) {
     chart.coordinate = Coordinate::kHorizontal;
     chart.categoryOrders = {{Named("region"), CategoryOrder::Key::kValue, true}};
     chart.elements = {MeanBar()};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_clustered_bars_that_lie"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_clustered_bars_that_lie"));
 }
 
 TEST(WriteGpl, StackedBarsOfPercentages) {
@@ -63,7 +63,7 @@ TEST(WriteGpl, StackedBarsOfPercentages) {
     chart.color->legend = false;
     chart.normalize = true;
     chart.elements = {bar};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_stacked_bars_of_percentages"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_stacked_bars_of_percentages"));
 }
 
 TEST(WriteGpl, AHistogramInPanels) {
@@ -76,7 +76,7 @@ TEST(WriteGpl, AHistogramInPanels) {
     chart.panels = {Named("group")};
     chart.scaleRanges = {{Named("area"), {-1.1, 1.1}}, {CountVariable(), {0, 600}}};
     chart.elements = {histogram};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_histogram_in_panels"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_histogram_in_panels"));
 }
 
 TEST(WriteGpl, LinesWithPointsOfAComputedMeasure) {
@@ -91,7 +91,7 @@ TEST(WriteGpl, LinesWithPointsOfAComputedMeasure) {
     chart.style = CategoryDimension("sex");
     chart.referenceLines = {{Named("income"), 25.5, true}};
     chart.elements = {line};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_lines_with_points_of_a_computed_measure"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_lines_with_points_of_a_computed_measure"));
 }
 
 TEST(WriteGpl, StackedAreasOfAVariableWithAPeriodInItsName) {
@@ -104,7 +104,7 @@ TEST(WriteGpl, StackedAreasOfAVariableWithAPeriodInItsName) {
     chart.color->title = {"Sales", "region"};
     chart.title = {"Say \"yes\""};
     chart.elements = {area};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_stacked_areas_of_sums"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_stacked_areas_of_sums"));
 }
 
 TEST(WriteGpl, APieAgainstTheClock) {
@@ -117,7 +117,7 @@ TEST(WriteGpl, APieAgainstTheClock) {
     chart.summaryVariable = SummaryVariable{Named("sales"), {}};
     chart.color = CategoryDimension("region");
     chart.elements = {pie};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_pie_against_the_clock"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_pie_against_the_clock"));
 }
 
 TEST(WriteGpl, OneBoxWithLabelledCases) {
@@ -126,7 +126,7 @@ TEST(WriteGpl, OneBoxWithLabelledCases) {
     chart.caseLabel = Named("id");
     chart.caption = {"All wards"};
     chart.elements = {Box()};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_box_with_labelled_cases"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_box_with_labelled_cases"));
 }
 
 TEST(WriteGpl, ClusteredErrorBarsWithTheirMeans) {
@@ -140,7 +140,7 @@ TEST(WriteGpl, ClusteredErrorBarsWithTheirMeans) {
     chart.y = ScaleDimension("pain");
     chart.color = CategoryDimension("sex");
     chart.elements = {errorBar};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_clustered_error_bars_with_their_means"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_clustered_error_bars_with_their_means"));
 }
 
 TEST(WriteGpl, PointsInThreeDimensions) {
@@ -154,13 +154,13 @@ TEST(WriteGpl, PointsInThreeDimensions) {
     chart.coordinate = Coordinate::kThree;
     chart.pointLabel = Named("name");
     chart.elements = {Scatter()};
-    EXPECT_EQ(WriteGpl(chart), GoldenGpl("igraph_points_in_three_dimensions"));
+    EXPECT_EQ(GplText(chart), GoldenGpl("igraph_points_in_three_dimensions"));
 }
 
 namespace {
 
 bool HasPage(const ChartModel& chart) {
-    const std::string gpl = WriteGpl(chart);
+    const std::string gpl = GplText(chart);
     const bool begins = gpl.starts_with("\n PAGE: begin(");
     EXPECT_EQ(begins, gpl.ends_with("\n PAGE: end()\n"));
     return begins;

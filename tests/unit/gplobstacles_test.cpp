@@ -9,6 +9,10 @@ namespace recastor {
 
 namespace {
 
+std::string Obstacle(const ChartModel& chart) {
+    return WhyChartHasNoGpl(ChartFacts(chart));
+}
+
 std::string Message(const std::string& what, const std::string& reason) {
     return "*IGRAPH command " + what + " cannot be converted: " + reason + ".";
 }
@@ -88,139 +92,136 @@ TEST(GplObstacles, AnOrdinaryChartHasNone) {
          {ChartElement(Scatter()), ChartElement(MeanBar()), ChartElement(MeanLine()),
           ChartElement(MeanArea()), ChartElement(Box()), ChartElement(ErrorBar()),
           ChartElement(Histogram()), ChartElement(FitLine())}) {
-        EXPECT_EQ(WhyChartHasNoGpl(ChartOf(element)), "");
+        EXPECT_EQ(Obstacle(ChartOf(element)), "");
     }
-    EXPECT_EQ(WhyChartHasNoGpl(PieChart()), "");
+    EXPECT_EQ(Obstacle(PieChart()), "");
 }
 
 TEST(GplObstacles, PieBesideAnotherElement) {
-    EXPECT_EQ(WhyChartHasNoGpl(With(PieChart(), MeanBar())), kPieBeside);
-    EXPECT_EQ(WhyChartHasNoGpl(With(PieChart(), SumPie())), kPieBeside);
-    EXPECT_EQ(WhyChartHasNoGpl(With(PieChart(), HiddenLine())), kPieBeside);
-    EXPECT_EQ(WhyChartHasNoGpl(With(ChartOf(MeanBar()), SumPie())), kPieBeside);
+    EXPECT_EQ(Obstacle(With(PieChart(), MeanBar())), kPieBeside);
+    EXPECT_EQ(Obstacle(With(PieChart(), SumPie())), kPieBeside);
+    EXPECT_EQ(Obstacle(With(PieChart(), HiddenLine())), kPieBeside);
+    EXPECT_EQ(Obstacle(With(ChartOf(MeanBar()), SumPie())), kPieBeside);
 }
 
 TEST(GplObstacles, PieAlongAnAxis) {
     ChartModel chart = PieChart();
     chart.x1 = CategoryDimension("x");
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kPieAlongAxis);
+    EXPECT_EQ(Obstacle(chart), kPieAlongAxis);
     chart.color.reset();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), "");
+    EXPECT_EQ(Obstacle(chart), "");
     chart.style = CategoryDimension("s");
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kPieAlongAxis);
+    EXPECT_EQ(Obstacle(chart), kPieAlongAxis);
 }
 
 TEST(GplObstacles, FlatElementsInThreeDimensions) {
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(PieChart())), FlatInThree("PIE", "pies"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(MeanArea()))), FlatInThree("AREA", "areas"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(MeanLine()))), FlatInThree("LINE", "lines"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(Box()))), FlatInThree("BOX", "boxes"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(ErrorBar()))),
-              FlatInThree("ERRORBAR", "error bars"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(Histogram()))),
-              FlatInThree("HISTOGRAM", "histograms"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(FitLine()))), FlatInThree("FITLINE", "fit lines"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(Scatter()))), "");
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(ChartOf(MeanBar()))), "");
+    EXPECT_EQ(Obstacle(InThree(PieChart())), FlatInThree("PIE", "pies"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(MeanArea()))), FlatInThree("AREA", "areas"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(MeanLine()))), FlatInThree("LINE", "lines"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(Box()))), FlatInThree("BOX", "boxes"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(ErrorBar()))), FlatInThree("ERRORBAR", "error bars"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(Histogram()))), FlatInThree("HISTOGRAM", "histograms"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(FitLine()))), FlatInThree("FITLINE", "fit lines"));
+    EXPECT_EQ(Obstacle(InThree(ChartOf(Scatter()))), "");
+    EXPECT_EQ(Obstacle(InThree(ChartOf(MeanBar()))), "");
 }
 
 TEST(GplObstacles, TheFirstFlatElementIsNamed) {
     const ChartModel bars = ChartOf(MeanBar());
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(With(With(bars, MeanLine()), MeanArea()))),
+    EXPECT_EQ(Obstacle(InThree(With(With(bars, MeanLine()), MeanArea()))),
               FlatInThree("LINE", "lines"));
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(With(With(bars, HiddenLine()), MeanArea()))),
+    EXPECT_EQ(Obstacle(InThree(With(With(bars, HiddenLine()), MeanArea()))),
               FlatInThree("LINE", "lines"));
 }
 
 TEST(GplObstacles, PanelsInThreeDimensions) {
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(PanelledBy(ChartOf(MeanBar()), 1))), kPanelsInThree);
-    EXPECT_EQ(WhyChartHasNoGpl(InThree(PanelledBy(ChartOf(MeanBar()), 3))), kPanelsInThree);
+    EXPECT_EQ(Obstacle(InThree(PanelledBy(ChartOf(MeanBar()), 1))), kPanelsInThree);
+    EXPECT_EQ(Obstacle(InThree(PanelledBy(ChartOf(MeanBar()), 3))), kPanelsInThree);
 }
 
 TEST(GplObstacles, ClustersInThreeDimensions) {
     const ChartModel bars = InThree(ChartOf(MeanBar()));
-    EXPECT_EQ(WhyChartHasNoGpl(ColoredBy(bars, CategoryDimension("c"))), kClustersInThree);
-    EXPECT_EQ(WhyChartHasNoGpl(ColoredBy(bars, ScaleDimension("c"))), "");
+    EXPECT_EQ(Obstacle(ColoredBy(bars, CategoryDimension("c"))), kClustersInThree);
+    EXPECT_EQ(Obstacle(ColoredBy(bars, ScaleDimension("c"))), "");
     ChartModel styled = bars;
     styled.style = CategoryDimension("c");
-    EXPECT_EQ(WhyChartHasNoGpl(styled), kClustersInThree);
+    EXPECT_EQ(Obstacle(styled), kClustersInThree);
     ChartModel stacked = ColoredBy(bars, CategoryDimension("c"));
     stacked.color->grouping = Grouping::kStack;
-    EXPECT_EQ(WhyChartHasNoGpl(stacked), "");
+    EXPECT_EQ(Obstacle(stacked), "");
     ChartModel overScale = ColoredBy(bars, CategoryDimension("c"));
     overScale.x1 = ScaleDimension("x");
-    EXPECT_EQ(WhyChartHasNoGpl(overScale), "");
-    EXPECT_EQ(WhyChartHasNoGpl(ColoredBy(InThree(ChartOf(Scatter())), CategoryDimension("c"))), "");
+    EXPECT_EQ(Obstacle(overScale), "");
+    EXPECT_EQ(Obstacle(ColoredBy(InThree(ChartOf(Scatter())), CategoryDimension("c"))), "");
 }
 
 TEST(GplObstacles, ClustersBesideOtherElements) {
     const ChartModel bars = ColoredBy(ChartOf(MeanBar()), CategoryDimension("c"));
     const ChartModel boxes = ColoredBy(ChartOf(Box()), CategoryDimension("c"));
     for (const ChartModel& chart : {bars, boxes}) {
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, Scatter())), ClusterBeside("SCATTER"));
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, MeanArea())), ClusterBeside("AREA"));
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, MeanLine())), ClusterBeside("LINE"));
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, Histogram())), ClusterBeside("HISTOGRAM"));
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, FitLine())), ClusterBeside("FITLINE"));
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, ErrorBar())), "");
-        EXPECT_EQ(WhyChartHasNoGpl(With(chart, HiddenLine())), "");
+        EXPECT_EQ(Obstacle(With(chart, Scatter())), ClusterBeside("SCATTER"));
+        EXPECT_EQ(Obstacle(With(chart, MeanArea())), ClusterBeside("AREA"));
+        EXPECT_EQ(Obstacle(With(chart, MeanLine())), ClusterBeside("LINE"));
+        EXPECT_EQ(Obstacle(With(chart, Histogram())), ClusterBeside("HISTOGRAM"));
+        EXPECT_EQ(Obstacle(With(chart, FitLine())), ClusterBeside("FITLINE"));
+        EXPECT_EQ(Obstacle(With(chart, ErrorBar())), "");
+        EXPECT_EQ(Obstacle(With(chart, HiddenLine())), "");
     }
-    EXPECT_EQ(WhyChartHasNoGpl(With(With(bars, MeanLine()), MeanArea())), ClusterBeside("LINE"));
+    EXPECT_EQ(Obstacle(With(With(bars, MeanLine()), MeanArea())), ClusterBeside("LINE"));
 }
 
 TEST(GplObstacles, WhatIsNotClusteredStandsBesideAnything) {
     const ChartDimension categories = CategoryDimension("c");
-    EXPECT_EQ(WhyChartHasNoGpl(With(ColoredBy(ChartOf(ErrorBar()), categories), MeanLine())), "");
-    EXPECT_EQ(WhyChartHasNoGpl(With(ColoredBy(ChartOf(MeanArea()), categories), MeanLine())), "");
+    EXPECT_EQ(Obstacle(With(ColoredBy(ChartOf(ErrorBar()), categories), MeanLine())), "");
+    EXPECT_EQ(Obstacle(With(ColoredBy(ChartOf(MeanArea()), categories), MeanLine())), "");
     ChartModel stacked = With(ColoredBy(ChartOf(MeanBar()), categories), MeanLine());
     stacked.color->grouping = Grouping::kStack;
-    EXPECT_EQ(WhyChartHasNoGpl(stacked), "");
+    EXPECT_EQ(Obstacle(stacked), "");
 }
 
 TEST(GplObstacles, StackMeansNothingWithoutBarsAndHistograms) {
     ChartModel chart = With(ColoredBy(ChartOf(Box()), CategoryDimension("c")), MeanLine());
     chart.color->grouping = Grouping::kStack;
-    EXPECT_EQ(WhyChartHasNoGpl(chart), ClusterBeside("LINE"));
+    EXPECT_EQ(Obstacle(chart), ClusterBeside("LINE"));
 }
 
 TEST(GplObstacles, MoreThanTwoPanelVariables) {
-    EXPECT_EQ(WhyChartHasNoGpl(PanelledBy(ChartOf(MeanBar()), 2)), "");
-    EXPECT_EQ(WhyChartHasNoGpl(PanelledBy(ChartOf(MeanBar()), 3)), kManyPanels);
-    EXPECT_EQ(WhyChartHasNoGpl(PanelledBy(ChartOf(MeanBar()), 100'000)), kManyPanels);
+    EXPECT_EQ(Obstacle(PanelledBy(ChartOf(MeanBar()), 2)), "");
+    EXPECT_EQ(Obstacle(PanelledBy(ChartOf(MeanBar()), 3)), kManyPanels);
+    EXPECT_EQ(Obstacle(PanelledBy(ChartOf(MeanBar()), 100'000)), kManyPanels);
 }
 
 TEST(GplObstacles, FitLinesThroughTheOrigin) {
     const FitLine fitLine = FitLineOf(FitLine::Method::kOrigin);
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(fitLine)), kOrigin);
-    EXPECT_EQ(WhyChartHasNoGpl(With(ChartOf(Scatter()), fitLine)), kOrigin);
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(FitLineWithCases(FitLine::Method::kOrigin))), kOrigin);
+    EXPECT_EQ(Obstacle(ChartOf(fitLine)), kOrigin);
+    EXPECT_EQ(Obstacle(With(ChartOf(Scatter()), fitLine)), kOrigin);
+    EXPECT_EQ(Obstacle(ChartOf(FitLineWithCases(FitLine::Method::kOrigin))), kOrigin);
 }
 
 TEST(GplObstacles, IntervalsOfIndividualCases) {
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(FitLineWithCases(FitLine::Method::kRegression))), kCases);
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(FitLineWithCases(FitLine::Method::kMean))), kCases);
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(FitLineWithCases(FitLine::Method::kLoess))), "");
-    EXPECT_EQ(WhyChartHasNoGpl(With(ChartOf(Scatter()), FitLineWithCases(FitLine::Method::kNone))),
-              "");
+    EXPECT_EQ(Obstacle(ChartOf(FitLineWithCases(FitLine::Method::kRegression))), kCases);
+    EXPECT_EQ(Obstacle(ChartOf(FitLineWithCases(FitLine::Method::kMean))), kCases);
+    EXPECT_EQ(Obstacle(ChartOf(FitLineWithCases(FitLine::Method::kLoess))), "");
+    EXPECT_EQ(Obstacle(With(ChartOf(Scatter()), FitLineWithCases(FitLine::Method::kNone))), "");
 }
 
 TEST(GplObstacles, NothingToDraw) {
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(HiddenLine())), kNothing);
-    EXPECT_EQ(WhyChartHasNoGpl(ChartOf(FitLineOf(FitLine::Method::kNone))), kNothing);
-    EXPECT_EQ(WhyChartHasNoGpl(With(ChartOf(HiddenLine()), MeanBar())), "");
+    EXPECT_EQ(Obstacle(ChartOf(HiddenLine())), kNothing);
+    EXPECT_EQ(Obstacle(ChartOf(FitLineOf(FitLine::Method::kNone))), kNothing);
+    EXPECT_EQ(Obstacle(With(ChartOf(HiddenLine()), MeanBar())), "");
 }
 
 TEST(GplObstacles, NoVariable) {
     ChartModel chart = ChartOf(Bar());
     chart.x1.reset();
     chart.y = CountDimension();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kNoVariable);
+    EXPECT_EQ(Obstacle(chart), kNoVariable);
     chart.y.reset();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kNoVariable);
+    EXPECT_EQ(Obstacle(chart), kNoVariable);
     chart.x1 = CaseDimension();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kNoVariable);
+    EXPECT_EQ(Obstacle(chart), kNoVariable);
     chart.panels = {Named("p")};
-    EXPECT_EQ(WhyChartHasNoGpl(chart), "");
+    EXPECT_EQ(Obstacle(chart), "");
 }
 
 TEST(GplObstacles, AVariableThatNoLineNamesIsNone) {
@@ -231,31 +232,31 @@ TEST(GplObstacles, AVariableThatNoLineNamesIsNone) {
     chart.caseLabel = Named("l");
     chart.size = ScaleDimension("s");
     chart.summaryVariable = SummaryVariable{Named("m"), {}};
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kNoVariable);
+    EXPECT_EQ(Obstacle(chart), kNoVariable);
 }
 
 TEST(GplObstacles, TheFirstOfSeveralIsTold) {
     ChartModel chart = InThree(PanelledBy(PieChart(), 3));
     chart.x1 = CategoryDimension("x");
     chart.elements.emplace_back(FitLineWithCases(FitLine::Method::kOrigin));
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kPieBeside);
+    EXPECT_EQ(Obstacle(chart), kPieBeside);
     chart.elements.pop_back();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kPieAlongAxis);
+    EXPECT_EQ(Obstacle(chart), kPieAlongAxis);
     chart.x1.reset();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), FlatInThree("PIE", "pies"));
+    EXPECT_EQ(Obstacle(chart), FlatInThree("PIE", "pies"));
 
     chart = InThree(PanelledBy(ColoredBy(ChartOf(MeanBar()), CategoryDimension("c")), 3));
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kPanelsInThree);
+    EXPECT_EQ(Obstacle(chart), kPanelsInThree);
     chart.panels.clear();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kClustersInThree);
+    EXPECT_EQ(Obstacle(chart), kClustersInThree);
 
     chart = PanelledBy(ColoredBy(ChartOf(MeanBar()), CategoryDimension("c")), 3);
     chart.elements.emplace_back(FitLineWithCases(FitLine::Method::kOrigin));
-    EXPECT_EQ(WhyChartHasNoGpl(chart), ClusterBeside("FITLINE"));
+    EXPECT_EQ(Obstacle(chart), ClusterBeside("FITLINE"));
     chart.color.reset();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kManyPanels);
+    EXPECT_EQ(Obstacle(chart), kManyPanels);
     chart.panels.clear();
-    EXPECT_EQ(WhyChartHasNoGpl(chart), kOrigin);
+    EXPECT_EQ(Obstacle(chart), kOrigin);
 }
 
 } // namespace recastor

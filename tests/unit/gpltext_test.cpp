@@ -95,7 +95,7 @@ TEST(GplDimensions, StandWithoutBlanks) {
 
 TEST(GplLine, HasOneBlankInFront) {
     std::string text = "\n";
-    AppendGplLine(text, "PAGE", "end()");
+    AppendGplLine(text, "PAGE", {"end()"});
     EXPECT_EQ(text, "\n PAGE: end()\n");
 }
 

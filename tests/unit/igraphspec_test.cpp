@@ -39,7 +39,7 @@ TEST(IGraphSpec, TellsWhatTheChartSays) {
     EXPECT_THAT(spec.getChartLooks(), ElementsAre("one", "two"));
     EXPECT_EQ(spec.getUsedVarName(), "x y");
     EXPECT_EQ(spec.errorMessage(), "");
-    EXPECT_EQ(gplGenerator(spec, nullptr, nullptr).getGPL(), WriteGpl(chart));
+    EXPECT_EQ(gplGenerator(spec, nullptr, nullptr).getGPL(), GplText(chart));
 }
 
 TEST(IGraphSpec, AChartWithoutGplHasAMessageAndNoText) {
