@@ -61,6 +61,16 @@ TEST(Arguments, UsageNamesTheProgramWhateverItIsStartedAs) {
     EXPECT_EQ(Usage(""), kUsage);
 }
 
+TEST(Arguments, UsageIsTheSameWhenTheProgramIsStartedUnderAnotherName) {
+    const TemporaryFolder folder;
+    fs::create_symlink(RECASTOR_PROGRAM, folder.Path() / "converter");
+    const RunResult result =
+        RunProgram((folder.Path() / "converter").string(), {"-x", "in", "out"}, folder.Path());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, kUsage + '\n');
+    EXPECT_EQ(result.output, "");
+}
+
 class Run : public Utf8Test {
 protected:
     std::string Path(const std::string& name) const { return (m_folder.Path() / name).string(); }

@@ -63,6 +63,7 @@ TEST(Format, SubcommandWithoutSettingsChangesNothing) {
         {"/FORMAT ", "BLANK"},
         {"/FORMAT=ZERO /FORMAT ", "ZERO"},
         {"/FORMAT=ZERO /FORMAT=CWIDTH(20,5) NBOX ", "ZERO"},
+        {"/FORMAT=ZERO MISSING='-'", "BLANK"}, // the text stands in no parentheses
     });
 }
 

@@ -113,6 +113,7 @@ Rows FormatThatCannotBeParsedIsDropped() {
         Global("/FORMAT BLANK 5", "_", warning),
         Global("/FORMAT MISSING", "_", warning),
         Global("/FORMAT MISSING(5)", "_", warning),
+        Global("/FORMAT=ZERO MISSING='-'", "_", warning),
         Global("/FORMAT INDENT(3) BREAK TABLE STATISTICS", "_", warning),
         Global("/FORMAT ) 'x' -1 * BY TO ALL", "_", warning),
         Global("/FORMAT x /FORMAT y /FORMAT BLANK", "_ _ (FORMAT (BLANK))", warning + warning),
