@@ -219,6 +219,7 @@ TEST_F(Boundary, UnclosedQuoteIsToldWhereItsLineEnds) {
     EXPECT_EQ(ErrorOf("TITLE '\u00E9\u00E9\r\n"), "1@1:10");
     EXPECT_EQ(ErrorOf("x\n 'a\n"), "1@2:3");
     EXPECT_EQ(ErrorOf("x /* c\r\n\n'a\n"), "1@3:2");
+    EXPECT_EQ(ErrorOf("x\r'a\n"), "1@2:2");
     EXPECT_EQ(ErrorOf("x. \ny\n"), "1");
     EXPECT_EQ(ErrorOf("x. y\n'a\n"), "1@2:2");
     EXPECT_EQ(ErrorOf("x. /* c */ 'a\n"), "1@1:14");

@@ -73,6 +73,14 @@ TEST_F(Conversion, FirstThreeLettersInAnyCaseMakeATablesCommand) {
     }
 }
 
+TEST_F(Conversion, SignInFrontOfABatchCommandIsNoPartOfIt) {
+    for (const std::string sign : {"+", "-"}) {
+        EXPECT_EQ(Convert(sign + "TABLES /TABLE sex BY region\n", true),
+                  kBeginComment + " *" + sign + "TABLES /TABLE sex BY region\n *.\n" + kConverted);
+    }
+    EXPECT_EQ(Convert("+TABLES /TABLE sex.\n"), "+TABLES /TABLE sex.\n");
+}
+
 TEST_F(Conversion, CommandsOfAnotherKindAreNoCandidates) {
     for (const std::string text :
          {"COMMENT TABLES /TABLE sex.\n", "* TABLES.\n", "DOCUMENT TABLES.\n",

@@ -66,6 +66,7 @@ TEST_F(Multibyte, LengthsOfALegacyEncoding) {
     const TextLocale chinese("zh_CN.GBK");
     EXPECT_EQ(LengthOf("\x81\x5C"), 2);
     EXPECT_EQ(LengthOf("\xC4\xE3x"), 2);
+    EXPECT_EQ(LengthOf("\xE4\xBD\xA0"), 2) << "looks like UTF-8";
     EXPECT_EQ(LengthOf("\\"), 1);
     EXPECT_LT(LengthOf("\x81"), 0);
     EXPECT_LT(LengthOf("\x81\x20"), 0);
@@ -133,6 +134,7 @@ TEST_F(Multibyte, LastPlaceOfAByte) {
 
 TEST_F(Multibyte, ByteInsideACharacterIsNotItsPlace) {
     EXPECT_EQ(LastPlace("\u00E9", '\xA9'), -1);
+    EXPECT_EQ(LastPlace("\u00E9", '\xC3'), -1);
     const TextLocale chinese("zh_CN.GBK");
     EXPECT_EQ(LastPlace("_a\x81\x5F", '_'), 0);
     EXPECT_EQ(LastPlace("\x81\x5F_", '_'), 2);
@@ -191,6 +193,7 @@ TEST_F(Multibyte, LocaleWithoutAnEncodingIsTakenForUtf8) {
 TEST_F(Multibyte, LocaleOfTheUserIsFollowed) {
     const TextLocale latin("de_DE.ISO-8859-1");
     EXPECT_EQ(LengthOf("\xE9"), 1);
+    EXPECT_EQ(LengthOf("\xC3\xA9"), 1);
     EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), "de_DE.ISO-8859-1");
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
 }
