@@ -53,11 +53,16 @@ TEST(AssertDeathTest, ActionThatFailsItselfRunsOnce) {
                  "what must hold.*\naction\nAssertion failed: value < bound, [^\n]*\n$");
 }
 
-TEST(AssertDeathTest, ActionOfTheMomentOnly) {
+TEST(AssertDeathTest, ActionThatIsGoneGivesWayToTheOneBefore) {
     {
         const OnFatalStop gone([] { std::cerr << "gone\n"; });
     }
     EXPECT_DEATH(CheckNamed(false), "zelkassert_test\n$");
+    const OnFatalStop outer([] { std::cerr << "outer\n"; });
+    {
+        const OnFatalStop gone([] { std::cerr << "gone\n"; });
+    }
+    EXPECT_DEATH(CheckNamed(false), "zelkassert_test\nouter\n$");
 }
 
 } // namespace
