@@ -363,6 +363,14 @@ TEST(ExpressFunctions, LongStatisticsAreBrokenBetweenPieces) {
               "a[C][COUNT,\n  " + longer + "]");
 }
 
+TEST(ExpressFunctions, BracketStaysWithAStatisticOfSeventySevenBytes) {
+    // 9 bytes, "b[C]>", the name and "[C]": 80, so that the opening bracket begins a line.
+    const std::string name(63, 'v');
+    const std::string label = '\'' + std::string(69, 'l') + '\'';
+    EXPECT_EQ(TranslatedTable("TABLES /TABLE=b > " + name + " /STATISTICS=count(" + label + ")"),
+              "b[C]>" + name + "[C]\n  [\n  COUNT," + label + "]");
+}
+
 TEST(ExpressFunctions, LastStatisticOfATotalKeepsItsBracket) {
     const std::string name(60, 'v'); // 80 bytes to TOTALS
     const std::string label = '\'' + std::string(69, 'l') + '\'';
