@@ -14,10 +14,10 @@ std::string WriteGpl(const ChartModel& chart, const GplVariables& variables);
 
 class gplGenerator {
 public:
-    /// The spec must outlive the generator.
+    /// The graph must outlive the generator.
     gplGenerator(iGraphSpec& spec, const ZELK_DataSource* data, FacSTDictionary* dictionary);
 
-    /// Empty when the spec has an error message.
+    /// Empty when the graph has an error message.
     std::string getGPL() const;
 
 private:

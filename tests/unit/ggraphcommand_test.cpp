@@ -27,11 +27,11 @@ std::string Command(const std::string& graphSpecTail) {
 
 } // namespace
 
-TEST(GGraphCommand, WithoutLabelLookAndTemplateTheSpecEndsBehindEditable) {
+TEST(GGraphCommand, WithoutLabelLookAndTemplateTheSubcommandEndsBehindEditable) {
     EXPECT_EQ(GGraphCommand(BareParts()), Command(""));
 }
 
-TEST(GGraphCommand, WithALabelAloneTheSpecEndsBehindIt) {
+TEST(GGraphCommand, WithALabelAloneTheSubcommandEndsBehindIt) {
     GGraphParts parts = BareParts();
     parts.viewName = "Heights";
     EXPECT_EQ(GGraphCommand(parts), Command(" LABEL='Heights'"));
