@@ -75,6 +75,14 @@ TEST(CompleteChart, GivesAestheticsTheirTypes) {
     });
 }
 
+TEST(CompleteChart, TakesCasesForCategoriesOfColorAndStyleAndForASize) {
+    ExpectComplete({
+        {"/Y=b /COLOR=$case /STYLE=$case /SIZE=$case /BAR",
+         "y b scale; color $case{case} cat; style $case{case} cat; size $case{case} scale; "
+         "bar mean"},
+    });
+}
+
 TEST(CompleteChart, CountsCasesWhereAMeasureIsMissing) {
     ExpectComplete({
         {"/X1=a /BAR", "x1 a cat; y $count{count} scale; bar"},
