@@ -5,7 +5,8 @@
 #
 # Targets: file, batch_file, tokens, tables, igraph. Each starts from the inputs of the golden files and what
 # earlier runs have found under build/fuzz/corpus, and knows the words of the language. A finding is left in
-# build/fuzz/findings and the exit status is 1.
+# build/fuzz/findings and the exit status is 1. SEED in the environment draws other inputs; 0 draws new ones
+# each time. Without it they are the same ones, so that a change is not refused by luck.
 set -eu
 
 cd "$(dirname "$0")/../.."
@@ -32,7 +33,7 @@ fuzz() {
     mkdir -p "$corpus/$target"
     log=build/fuzz/$target.log
     if "build/fuzz/tests/fuzz/fuzz_$target" "$corpus/$target" "$corpus/seeds" \
-        -max_total_time="$seconds" -dict=build/fuzz/words -max_len=4096 -timeout=20 -rss_limit_mb=4096 \
+        -seed="${SEED:-1}" -max_total_time="$seconds" -dict=build/fuzz/words -max_len=4096 -timeout=20 -rss_limit_mb=4096 \
         -artifact_prefix="build/fuzz/findings/$target-" -print_final_stats=1 >"$log" 2>&1; then
         runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
         echo "$target: $runs executions, no finding"
