@@ -49,18 +49,23 @@ void GetParseErrorStrings(const ParseError& error, std::string& first, std::stri
     if (error.GetErrorID() == ParseError::kNoError) {
         return;
     }
+    const ConversionError parts = ErrorOf(error);
+    first = FormatLineAndColumn(IDS_TOKERR_MAIN, parts.line, parts.column);
+    second = parts.text;
+}
+
+ConversionError ErrorOf(const ParseError& error) {
     long line = 0;
     int column = 0;
     error.GetLineAndCol(line, column);
-    first = FormatLineAndColumn(IDS_TOKERR_MAIN, line, column);
-    second = MessageNumber(TokenErrorTable(), error.GetErrorID());
+    return {line, column, MessageNumber(TokenErrorTable(), error.GetErrorID())};
 }
 
 void PrintErrorLine(const std::string& text, std::ostream& out) {
     PrintCommand("***** " + text, out, 0);
 }
 
-void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
+std::optional<ConversionError> RecordedError(long lineOffset) {
     int line = 0;
     int column = 0;
     int keywordCode = 0;
@@ -68,16 +73,22 @@ void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
     const TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
     const int error = command.GetParseErrorInfo(line, column, keywordCode, argument);
     if (error == TbTrTablesCommand::kNoError) {
-        return;
+        return std::nullopt;
     }
-    // The parser counts columns from 0.
-    PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, line + lineOffset, column + 1), out);
     if (error == TbTrTablesCommand::kBadArgument) {
         argument = TbTrTablesCommand::KeywordFromCode(keywordCode);
     }
     std::string reason;
     SCFormatString(reason, MessageNumber(ParseErrorTable(), error), argument);
-    PrintErrorLine(reason, out);
+    // The parser counts columns from 0.
+    return ConversionError{line + lineOffset, column + 1, reason};
+}
+
+void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
+    if (const auto error = RecordedError(lineOffset)) {
+        PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, error->line, error->column), out);
+        PrintErrorLine(error->text, out);
+    }
 }
 
 } // namespace recastor

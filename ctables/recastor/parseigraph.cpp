@@ -22,12 +22,13 @@ struct NewForm {
 };
 
 /// The services are given no data, dictionary or document: they work on syntax alone.
-NewForm ConvertGraph(TokenSequenceBase& tokens) {
+NewForm ConvertGraph(TokenSequenceBase& tokens, ConversionListener& listener) {
     parser chartParser(nullptr, nullptr);
     if (!chartParser.Parse(tokens) || !chartParser.CompleteAndValidateSyntax()) {
         return {false, IDS_STRING_IGRAPH_ERROR};
     }
     iGraphSpec& spec = *chartParser.GetSettings();
+    listener.OnChart(spec);
     LabelOutput(spec);
     const std::string gpl = gplGenerator(spec, nullptr, nullptr).getGPL();
     if (!spec.errorMessage().empty()) {
@@ -41,9 +42,15 @@ NewForm ConvertGraph(TokenSequenceBase& tokens) {
 
 } // namespace
 
-void ParseIgraph(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t /*lineOffset*/) {
+void ParseIgraph(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t /*lineOffset*/,
+                 ConversionListener& listener) {
     const std::unique_ptr<ZELKTokenSequence> owner(tokens);
-    const NewForm form = ConvertGraph(*tokens);
+    const NewForm form = ConvertGraph(*tokens, listener);
+    if (form.isConverted) {
+        listener.OnConverted(form.text, {});
+    } else {
+        listener.OnNotConverted({0, 0, form.text});
+    }
     output << IDS_STRING_BEGIN_GGRAPH_COMMAND << '\n';
     PrintCommand(form.text, output, 0);
     output << IDS_STRING_END_GGRAPH_COMMAND << '\n';

@@ -3,6 +3,7 @@
 #include "ctables/recastor/bison/tbtrparsebuilder.h"
 #include "ctables/recastor/bison/tbtrparser.h"
 #include "ctables/recastor/commandstream.h"
+#include "ctables/recastor/conversionlistener.h"
 #include "ctables/recastor/errorlines.h"
 #include "ctables/recastor/messages.h"
 #include "ctables/recastor/parseigraph.h"
@@ -12,6 +13,7 @@
 #include "ctables/recastor/tokenscan.h"
 #include "ctables/recastor/zelktokensequence.h"
 
+#include <array>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -28,7 +30,9 @@ struct Conversion {
     const char* word;
     const std::string& beginComment;
     const std::string& endComment;
-    void (*convert)(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset);
+    void (*convert)(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset,
+                    ConversionListener& listener);
+    ReportedKind kind;
 };
 
 /// How an ordinary command is converted, by its first word; null for one that is copied.
@@ -36,9 +40,9 @@ const Conversion* FindConversion(ZELKTokenSequence& opening) {
     constexpr unsigned kAbbreviation = 3;
     static const Conversion conversions[] = {
         {"TABLES", IDS_STRING_COMMENT_BEGIN_TABLES_COMMAND, IDS_STRING_COMMENT_END_TABLES_COMMAND,
-         ParseTables},
+         ParseTables, ReportedKind::kTables},
         {"IGRAPH", IDS_STRING_COMMENT_BEGIN_IGRAPH_COMMAND, IDS_STRING_COMMENT_END_IGRAPH_COMMAND,
-         ParseIgraph},
+         ParseIgraph, ReportedKind::kIgraph},
     };
     if (opening.Next()) {
         for (const Conversion& conversion : conversions) {
@@ -59,17 +63,27 @@ void PassByteOrderMark(std::string& text, std::ostream& output) {
     }
 }
 
+/// What listeners call a command that is copied, by its CommandKind.
+ReportedKind KindOfCopied(int kind) {
+    constexpr std::array kinds{ReportedKind::kOther, ReportedKind::kComment,
+                               ReportedKind::kDocument, ReportedKind::kData};
+    return kinds.at(static_cast<std::size_t>(kind));
+}
+
 void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
-                   std::ostream& output) {
+                   std::ostream& output, ConversionListener& listener) {
     ZELKTokenSequence opening(text, batch, kTokensThatTellTheKind);
     const bool ordinary = opening.TypeOfCommand() == kOrdinaryCommand;
     const Conversion* const conversion = ordinary ? FindConversion(opening) : nullptr;
+    listener.OnCommand(conversion != nullptr ? conversion->kind
+                                             : KindOfCopied(opening.TypeOfCommand()),
+                       lineOffset + 1, text);
     if (conversion != nullptr) {
         auto tokens = std::make_unique<ZELKTokenSequence>(text, batch, 0);
         output << conversion->beginComment << '\n';
         PrintCommand(CommentCommand(text), output, 1);
         PrintCommand(conversion->endComment, output, 0);
-        conversion->convert(tokens.release(), output, lineOffset);
+        conversion->convert(tokens.release(), output, lineOffset, listener);
         return;
     }
     if (ordinary) {
@@ -80,9 +94,9 @@ void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
 
 /// The same; the line of an error in the command's tokens becomes that of the input file.
 void ConvertOrCopyAt(std::int64_t firstLine, const std::string& text, bool batch,
-                     std::ostream& output) {
+                     std::ostream& output, ConversionListener& listener) {
     try {
-        ConvertOrCopy(text, batch, firstLine - 1, output);
+        ConvertOrCopy(text, batch, firstLine - 1, output, listener);
     } catch (ParseError& error) {
         error.IncrementLine(static_cast<long>(firstLine - 1));
         throw;
@@ -105,9 +119,17 @@ bool ParseCommand(TbTrTablesCommand& command) {
     return false;
 }
 
+/// Tells the error that the classifier has recorded.
+void TellError(long lineOffset, ConversionListener& listener) {
+    if (const auto error = RecordedError(lineOffset)) {
+        listener.OnNotConverted(*error);
+    }
+}
+
 } // namespace
 
-bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output) {
+bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output,
+                     ConversionListener& listener) {
     try {
         bool firstCommand = true;
         while (!commands.NextCommand()) {
@@ -116,7 +138,7 @@ bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output) 
                 PassByteOrderMark(text, output);
                 firstCommand = false;
             }
-            ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output);
+            ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output, listener);
         }
         return true;
     } catch (const ParseError& error) {
@@ -125,15 +147,20 @@ bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output) 
         GetParseErrorStrings(error, first, second);
         PrintErrorLine(first, output);
         PrintErrorLine(second, output);
+        listener.OnEnd(ErrorOf(error));
         return false;
     }
 }
 
-void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset) {
+void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset,
+                 ConversionListener& listener) {
     TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
     command.Reset(tokens);
     const bool parsed = ParseCommand(command);
     command.DropTokens();
+    if (parsed) {
+        listener.OnTree(*command.GetParseTree());
+    }
     std::string result;
     const bool ok = parsed && ParseTree::TranslateTablesCommand(command.GetParseTree(), result);
     PrintCommand(IDS_STRING_BEGIN_CTABLES_COMMAND, output, 0);
@@ -142,9 +169,11 @@ void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t l
             PrintErrorLine(warning, output);
         }
         PrintCommand(result, output, 0);
+        listener.OnConverted(result, command.ListWarnings());
         std::cout << IDS_CONVERSION_TABLES_SUCCEED;
     } else {
         PrintParseOrTranslateError(output, static_cast<long>(lineOffset));
+        TellError(static_cast<long>(lineOffset), listener);
         std::cout << IDS_CONVERSION_TABLES_FAIL;
     }
     PrintCommand(IDS_STRING_END_CTABLES_COMMAND, output, 0);
