@@ -1,8 +1,8 @@
 // What the recorded cases hold is read by a grammar of its own: every converted command must be a
 // well-formed MRSETS and CTABLES command.
 
+#include "archive/picture/ctablesgrammar.h"
 #include "tests/support/convertedtables.h"
-#include "tests/support/ctablesgrammar.h"
 #include "tests/support/run.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 // Laws of the whole conversion.
 
+#include "archive/picture/ctablesgrammar.h"
 #include "tests/support/convertedtables.h"
-#include "tests/support/ctablesgrammar.h"
 #include "tests/support/generators/syntaxfile.h"
 #include "tests/support/law.h"
 #include "tests/support/run.h"

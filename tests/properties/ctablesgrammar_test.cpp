@@ -1,6 +1,6 @@
 // The grammar that judges what the converter writes must be able to say no.
 
-#include "tests/support/ctablesgrammar.h"
+#include "archive/picture/ctablesgrammar.h"
 
 #include <array>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 // Laws of the /TABLE line: what stands in it, and where the statistics stand.
 
-#include "tests/support/ctablesgrammar.h"
+#include "archive/picture/ctablesgrammar.h"
 #include "tests/support/generators/tablescommand.h"
 #include "tests/support/law.h"
 #include "tests/support/translatedtext.h"

@@ -1,6 +1,6 @@
 // Laws of totals: a name beside a variable becomes a property of that variable's categories.
 
-#include "tests/support/ctablesgrammar.h"
+#include "archive/picture/ctablesgrammar.h"
 #include "tests/support/generators/tablescommand.h"
 #include "tests/support/law.h"
 #include "tests/support/translatedtext.h"

@@ -1,9 +1,9 @@
 // What is written for a command that can be converted is well-formed: to a grammar that knows
 // nothing of the translator, and to the rules by which commands are read.
 
+#include "archive/picture/ctablesgrammar.h"
 #include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/printcommand.h"
-#include "tests/support/ctablesgrammar.h"
 #include "tests/support/dump.h"
 #include "tests/support/generators/tablescommand.h"
 #include "tests/support/law.h"

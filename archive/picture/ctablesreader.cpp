@@ -1,4 +1,4 @@
-#include "tests/support/ctablesreader.h"
+#include "archive/picture/ctablesreader.h"
 
 #include <algorithm>
 #include <array>
@@ -150,11 +150,13 @@ std::string CtablesReader::Literal() {
     const std::size_t start = m_position;
     SkipQuoted();
     std::size_t end = m_position;
-    while (Accept("+") && IsAtQuote()) {
-        SkipQuoted();
-        end = m_position;
+    for (bool touches = Rest().starts_with('+'); Accept("+"); touches = Rest().starts_with('+')) {
+        touches = touches || Rest().starts_with('\'') || Rest().starts_with('"');
+        if (touches && IsAtQuote()) {
+            SkipQuoted();
+            end = m_position;
+        }
     }
-    m_position = end;
     return std::string(m_text.substr(start, end - start));
 }
 

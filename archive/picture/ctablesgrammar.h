@@ -2,6 +2,8 @@
 /// commands must look like and nothing of how they are made, so that it can judge them.
 #pragma once
 
+#include "archive/picture/tableexpression.h"
+
 #include <map>
 #include <optional>
 #include <string>
@@ -26,12 +28,7 @@ struct CtablesVariable {
     std::vector<CtablesStatistic> totals;
 };
 
-/// A variable (`operation` 0), or a stacking (`+`) or nesting (`>`) of two and more operands.
-struct CtablesExpression {
-    char operation = 0;
-    CtablesVariable variable;
-    std::vector<CtablesExpression> operands;
-};
+using CtablesExpression = TableExpression<CtablesVariable>;
 
 /// `/CATEGORIES VAR=a b TOTAL=YES POSITION=AFTER LABEL='All'`.
 struct CtablesTotal {

@@ -1,6 +1,6 @@
-#include "tests/support/ctablesgrammar.h"
+#include "archive/picture/ctablesgrammar.h"
 
-#include "tests/support/ctablesreader.h"
+#include "archive/picture/ctablesreader.h"
 
 #include <algorithm>
 #include <array>
@@ -104,6 +104,7 @@ private:
     void RequireSubcommand(std::string_view name);
 
     CtablesReader m_reader;
+    int m_depth = 0; ///< of parentheses
 };
 
 void Grammar::RequireSubcommand(std::string_view name) {
@@ -234,11 +235,16 @@ CtablesExpression Grammar::Operand() {
     if (!m_reader.Accept("(")) {
         return {0, Variable(), {}};
     }
+    constexpr int kDeepest = 500; // the call stack's sake
+    if (++m_depth > kDeepest) {
+        m_reader.Fail("fewer parentheses inside each other");
+    }
     CtablesExpression inner = Expression();
     if (inner.operation == 0) {
         m_reader.Fail("two operands inside parentheses");
     }
     m_reader.Expect(")");
+    --m_depth;
     return inner;
 }
 

@@ -26,7 +26,8 @@ public:
     /// A number, with its sign and exponent; fails for none.
     std::string Number();
     bool IsAtQuote();
-    /// A quoted text or several joined by `+`, with the quotes; fails for none.
+    /// A quoted text or several joined by `+`, with the quotes; fails for none. A plus sign joins
+    /// when it touches a quote; one that stands apart from both says nothing and is skipped.
     std::string Literal();
     bool IsAtEnd();
     /// The next character that is no blank; 0 at the end.
