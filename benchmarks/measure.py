@@ -161,15 +161,14 @@ def product_rows(effort):
 
 def stage_rows(effort):
     """The benchmarks of the stages: a line for each stage and kind of input."""
-    command = [STAGES, "--benchmark_format=json", "--benchmark_repetitions=3",
-               "--benchmark_report_aggregates_only=true",
+    command = [STAGES, "--benchmark_repetitions=3", "--benchmark_report_aggregates_only=true",
                f"--benchmark_min_time={effort.stage_seconds}"]
-    text = subprocess.run(command, env=processes.ENVIRONMENT, stdout=subprocess.PIPE,
-                          check=True).stdout
-    for benchmark in json.loads(text)["benchmarks"]:
+    report = subprocess.run(command, env=processes.ENVIRONMENT, stdout=subprocess.PIPE,
+                            check=True).stdout
+    for benchmark in json.loads(report)["benchmarks"]:
         if benchmark["aggregate_name"] == "median":
-            yield Row(f"stage {benchmark['run_name']}",
-                      f"{benchmark['bytes_per_second'] / MB:.1f} MB/s")
+            stage, kind = benchmark["run_name"].split("/")[:2]
+            yield Row(f"stage {stage}: {kind}", f"{benchmark['bytes_per_second'] / MB:.1f} MB/s")
 
 
 def all_rows(effort):
@@ -182,8 +181,7 @@ def all_rows(effort):
     if effort.largest:
         yield from largest_rows()
     yield from product_rows(effort)
-    if STAGES.exists():
-        yield from stage_rows(effort)
+    yield from stage_rows(effort)
 
 
 def machine():
