@@ -86,7 +86,7 @@ std::string CtablesReader::Name() {
         (lineEnd == m_text.size() || m_text[lineEnd] == '\n')) {
         --end;
     }
-    const std::string name(m_text.substr(m_position, end - m_position));
+    std::string name(m_text.substr(m_position, end - m_position));
     if (name.empty() || IsDigit(name.front()) || name.front() == '.' || name.front() == '_' ||
         std::find(kReserved.begin(), kReserved.end(), name) != kReserved.end()) {
         Fail("a name");

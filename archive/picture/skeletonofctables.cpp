@@ -15,6 +15,7 @@ std::optional<std::string> TextOf(const std::optional<std::string>& literal) {
 
 std::vector<SkeletonStatistic> StatisticsOf(const std::vector<CtablesStatistic>& written) {
     std::vector<SkeletonStatistic> statistics;
+    statistics.reserve(written.size());
     for (const CtablesStatistic& one : written) {
         statistics.push_back({one.function, TextOf(one.label), one.format});
     }

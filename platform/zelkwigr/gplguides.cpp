@@ -1,11 +1,9 @@
 // GUIDE.
 
+#include "platform/zelkwigr/chartlabels.h"
 #include "platform/zelkwigr/gplaesthetics.h"
 #include "platform/zelkwigr/gpllines.h"
-#include "platform/zelkwigr/gplsummary.h"
 #include "platform/zelkwigr/gpltext.h"
-
-#include <variant>
 
 namespace recastor {
 
@@ -15,58 +13,8 @@ std::string Label(const std::string& string) {
     return GplCall("label", {string});
 }
 
-/// What a guide calls a variable that has no title.
-std::string CommonName(const ChartVariable& variable) {
-    switch (variable.builtIn) {
-    case BuiltIn::kCount:
-        return "Count";
-    case BuiltIn::kPercent:
-        return "Percent";
-    default:
-        return DataName(variable);
-    }
-}
-
-std::string TitleOrName(const ChartDimension& dimension) {
-    return dimension.title.empty() ? GplString(CommonName(dimension.variable))
-                                   : GplString(dimension.title);
-}
-
-/// The function of the first element that summarises Y; null when there is none.
-struct FirstSummary {
-    const std::optional<SummaryFunction>* function = nullptr;
-    bool isNormalized = false;
-};
-
-FirstSummary FindFirstSummary(const ChartFacts& facts) {
-    for (const ChartElement* element : facts.drawn) {
-        const bool isNormalized = facts.IsNormalized(KindOf(*element));
-        if (const auto* const bar = std::get_if<Bar>(element)) {
-            return {&bar->function, isNormalized};
-        }
-        if (const auto* const line = std::get_if<Line>(element)) {
-            return {&line->function, isNormalized};
-        }
-        if (const auto* const area = std::get_if<Area>(element)) {
-            return {&area->function, isNormalized};
-        }
-    }
-    return {};
-}
-
-std::string YTitle(const ChartFacts& facts) {
-    const FirstSummary first = FindFirstSummary(facts);
-    if (!facts.y->title.empty()) {
-        return GplString(facts.y->title);
-    }
-    if (first.isNormalized) {
-        return GplString("Percent");
-    }
-    const std::string name = CommonName(facts.y->variable);
-    if (first.function == nullptr || IsCounted(facts.y->variable)) {
-        return GplString(name);
-    }
-    return GplString(SummaryAxisText(FunctionOf(*first.function)) + ' ' + name);
+std::string DimensionTitle(const ChartDimension& dimension) {
+    return GplString(DimensionLabel(dimension));
 }
 
 void AppendAxis(int dimension, const std::string& title, const char* place, std::string& text) {
@@ -79,16 +27,16 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
         AppendAxis(dimensions.measure, "null()", "", text);
     } else {
         if (facts.chart.x1) {
-            AppendAxis(dimensions.x1, Label(TitleOrName(*facts.chart.x1)), "", text);
+            AppendAxis(dimensions.x1, Label(DimensionTitle(*facts.chart.x1)), "", text);
         }
         if (facts.chart.x2) {
-            AppendAxis(dimensions.x2, Label(TitleOrName(*facts.chart.x2)), "", text);
+            AppendAxis(dimensions.x2, Label(DimensionTitle(*facts.chart.x2)), "", text);
         }
-        AppendAxis(dimensions.measure, Label(YTitle(facts)), "", text);
+        AppendAxis(dimensions.measure, Label(GplString(MeasureLabel(facts))), "", text);
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : facts.chart.panels) {
-        AppendAxis(panelDimension, Label(GplString(CommonName(panel))), "opposite()", text);
+        AppendAxis(panelDimension, Label(GplString(VariableLabel(panel))), "opposite()", text);
         ++panelDimension;
     }
 }
@@ -96,7 +44,7 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
 void AppendLegends(const ChartFacts& facts, std::string& text) {
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const ChartDimension& dimension = *shown.dimension;
-        const std::string title = dimension.legend ? Label(TitleOrName(dimension)) : "null()";
+        const std::string title = dimension.legend ? Label(DimensionTitle(dimension)) : "null()";
         AppendGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), ", title, ")"});
     }
 }
