@@ -7,6 +7,7 @@
 #include "ctables/recastor/zelkname.h"
 #include "platform/zelkmb/encodingcheck.h"
 #include "platform/zelkmb/zelkmb.h"
+#include "tests/support/generators/anyencoding.h"
 #include "tests/support/generators/syntaxtext.h"
 #include "tests/support/law.h"
 #include "tests/support/run.h"
@@ -28,21 +29,6 @@ namespace recastor {
 namespace {
 
 class CharacterLaws : public Utf8Test {};
-
-/// Follows one of the encodings for as long as it lives.
-class AnyEncoding {
-public:
-    AnyEncoding() :
-        m_locale(*rc::gen::elementOf(
-            std::vector<std::string>{"C.UTF-8", "zh_CN.GBK", "de_DE.ISO-8859-1"})) {
-        if (*rc::gen::weightedElement<bool>({{4, false}, {1, true}})) {
-            TreatHighBytesAsCharacters();
-        }
-    }
-
-private:
-    TextLocale m_locale;
-};
 
 std::string AnyBytes() {
     return *rc::gen::oneOf(AnySyntax(), rc::gen::arbitrary<std::string>());
