@@ -128,7 +128,7 @@ def size_rows(kind, effort):
     repeated = {1: 8, 16: 2, 256: 1}
     programs = {size: converter(generated(kind, size * MB)) for size in repeated}
     starts, times = [], {size: [] for size in repeated}
-    for _ in range(effort.rounds):
+    for _ in range(3):
         starts += interleaved({"": converter(empty)}, 8)[""]
         for size, runs in repeated.items():
             times[size] += interleaved({"": programs[size]}, runs)[""]
