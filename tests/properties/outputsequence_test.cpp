@@ -1,7 +1,9 @@
 // Laws of the layout of pieces in lines.
 
 #include "ctables/recastor/outputsequence.h"
+#include "tests/support/generators/words.h"
 #include "tests/support/law.h"
+#include "tests/support/plain/plainlayout.h"
 
 #include <algorithm>
 #include <ostream>
@@ -146,6 +148,55 @@ TEST(LayoutLaws, FusedLineIsNeverBroken) {
             RC_ASSERT(sequence.Print(1, 0) == before);
         },
         1000));
+}
+
+/// Puts the same pieces into both: texts of every sort, line breaks, sequences put together before,
+/// and lines that are fused.
+void PutTogether(OutputSequence& sequence, PlainPieces& plain, int depth) {
+    static const Strings texts{",",     "a",      "name", "[COUNT",  "'a text' ",     "+",
+                               " ,",    ",b",     "ab,",  "[ROWPCT", "'two\n lines'", "",
+                               "     ", "longer", "]",    "VAR=q1"};
+    while (!*OnceIn(depth == 0 ? 20 : 6)) {
+        switch (*Below(10)) {
+        case 0:
+            sequence.PushBackNewline();
+            plain.PushBackNewline();
+            break;
+        case 1:
+            sequence.Fuse();
+            plain.Fuse();
+            break;
+        case 2:
+            if (depth < 3) {
+                OutputSequence part;
+                PlainPieces plainPart;
+                PutTogether(part, plainPart, depth + 1);
+                sequence.PushBack(part);
+                plain.PushBack(plainPart);
+            }
+            break;
+        default: {
+            const std::string text = *OneOf(texts);
+            const bool leadingBlank = *OnceIn(2);
+            sequence.PushBack(text, leadingBlank);
+            plain.PushBack(text, leadingBlank);
+        }
+        }
+    }
+}
+
+TEST(LayoutLaws, TextIsThatOfAPlainLayout) {
+    EXPECT_TRUE(HoldsAlways(
+        [] {
+            OutputSequence sequence;
+            PlainPieces plain;
+            PutTogether(sequence, plain, 0);
+            const auto width = *rc::gen::inRange(2U, 60U);
+            const auto indent = *rc::gen::inRange(0U, std::min(width, 5U));
+            RC_ASSERT(sequence.Length() == plain.Length());
+            RC_ASSERT(sequence.Print(width, indent) == plain.Print(width, indent));
+        },
+        5000));
 }
 
 } // namespace
