@@ -24,6 +24,8 @@ public:
     static FileDescriptor Open(const std::string& name, int flags);
 
     bool IsOpen() const { return m_number >= 0; }
+    /// The descriptor, for calls of the system's; it stays this object's.
+    int Number() const { return m_number; }
 
     /// Reads up to `size` bytes; 0 at the end, below 0 on failure.
     long Read(char* buffer, std::size_t size) const;

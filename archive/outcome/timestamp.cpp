@@ -1,0 +1,49 @@
+#include "archive/outcome/timestamp.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+
+namespace recastor {
+
+namespace {
+
+constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
+
+} // namespace
+
+std::string Timestamp(std::int64_t nanoseconds) {
+    std::int64_t fraction = nanoseconds % kNanosecondsPerSecond;
+    if (fraction < 0) {
+        fraction += kNanosecondsPerSecond;
+    }
+    const std::time_t seconds = (nanoseconds - fraction) / kNanosecondsPerSecond;
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d.%09ldZ",
+                  parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour,
+                  parts.tm_min, parts.tm_sec, static_cast<long>(fraction));
+    return text.data();
+}
+
+std::optional<std::int64_t> ReadTimestamp(const std::string& text) {
+    std::tm parts{};
+    const char* const rest = strptime(text.c_str(), "%Y-%m-%dT%H:%M:%S", &parts);
+    long fraction = 0;
+    char zone = '\0';
+    if (rest == nullptr || std::sscanf(rest, ".%9ld%c", &fraction, &zone) != 2 || zone != 'Z') {
+        return std::nullopt;
+    }
+    return timegm(&parts) * kNanosecondsPerSecond + fraction;
+}
+
+std::int64_t Now() {
+    using std::chrono::system_clock;
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(
+               system_clock::now().time_since_epoch())
+        .count();
+}
+
+} // namespace recastor

@@ -1,0 +1,80 @@
+/// The list of what became of every file: the lines of OutcomeLine(), in the order of the walk.
+#pragma once
+
+#include "ctables/recastor/filedescriptor.h"
+
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace recastor {
+
+/// Reads a manifest line by line. A file that is missing is one without lines; what is no line of
+/// a manifest, as one that was cut off, is passed over.
+class ManifestReader {
+public:
+    explicit ManifestReader(const std::string& fileName);
+
+    /// Goes to the next line, from before the first; false behind the last.
+    bool Next();
+    const std::string& Line() const { return m_line; }
+    const std::string& Path() const { return m_path; }
+
+private:
+    std::ifstream m_file;
+    std::string m_line;
+    std::string m_path;
+};
+
+/// Reads several manifests as if they were one. Where several have a path the last of them counts.
+class MergedManifests {
+public:
+    explicit MergedManifests(const std::vector<std::string>& fileNames);
+
+    /// Goes to the next line, from before the first; false behind the last.
+    bool Next();
+    const std::string& Line() const { return m_readers[m_current].Line(); }
+    const std::string& Path() const { return m_readers[m_current].Path(); }
+    /// Which of the manifests the line is from.
+    std::size_t Current() const { return m_current; }
+
+private:
+    std::vector<ManifestReader> m_readers;
+    std::vector<bool> m_hasLine;
+    std::size_t m_current = 0;
+};
+
+/// The manifest of a report folder over one run: what earlier runs left is looked up while the new
+/// one is written beside it.
+class RunManifest {
+public:
+    /// Throws FileError when the new one cannot be written.
+    explicit RunManifest(const std::string& reportFolder);
+
+    /// The earlier run's line for the path; empty when there is none. To be asked in the order of
+    /// the walk.
+    std::string PreviousLine(const std::string& path);
+    /// Adds a line, behind those of all paths before its own.
+    void Add(const std::string& line);
+    /// The earlier run's lines behind the last path that was asked for, one after the other: they
+    /// are to be kept when the walk was broken off.
+    std::optional<std::string> TakeRest();
+    /// Puts the new manifest in the place of the old one. Throws FileError when any of it could not
+    /// be written: then the earlier one stands, and the next run reads both.
+    void Finish();
+    /// Brings what was added so far to the disk.
+    void Flush();
+
+    static std::string FileName(const std::string& reportFolder);
+
+private:
+    std::string m_fileName;
+    ManifestReader m_previous;
+    bool m_hasPrevious;
+    FileDescriptor m_file;
+    std::string m_pending;
+    bool m_failed = false;
+};
+
+} // namespace recastor

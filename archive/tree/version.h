@@ -1,0 +1,8 @@
+/// The version that the programs tell.
+#pragma once
+
+namespace recastor {
+
+inline constexpr const char* kVersion = RECASTOR_VERSION; // the build's, of the whole project
+
+} // namespace recastor
