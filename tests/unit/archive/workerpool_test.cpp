@@ -1,0 +1,87 @@
+// Files that end a worker or keep it forever cost themselves only.
+
+#include "archive/tree/workerpool.h"
+#include "tests/support/run.h"
+
+#include <chrono>
+#include <map>
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+namespace recastor {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Pool : public testing::Test {
+protected:
+    Pool() {
+        m_options.source = m_folder.Path() / "source";
+        m_options.target = m_folder.Path() / "target";
+        m_options.locale = "C.UTF-8";
+        fs::create_directory(m_options.source);
+        fs::create_directory(m_options.target);
+    }
+
+    void Put(const std::string& name, const std::string& text) const {
+        WriteFile(fs::path(m_options.source) / name, text);
+    }
+
+    std::map<std::uint64_t, FileResult> Convert(const std::vector<std::string>& names) const {
+        std::map<std::uint64_t, FileResult> results;
+        WorkerPool pool(m_options, [&](std::uint64_t number, FileResult result) {
+            results.emplace(number, std::move(result));
+        });
+        std::size_t next = 0;
+        while (next < names.size() || !pool.IsIdle()) {
+            while (next < names.size() && pool.HasRoom()) {
+                pool.Give({next, {names[next], "", ""}});
+                ++next;
+            }
+            pool.Wait(1000);
+        }
+        return results;
+    }
+
+    TemporaryFolder m_folder;
+    TreeOptions m_options;
+};
+
+TEST_F(Pool, FileThatTakesForeverFailsWhenItsTimeIsOver) {
+    // To open a pipe that nobody writes to never ends.
+    ASSERT_EQ(::mkfifo((fs::path(m_options.source) / "pipe").c_str(), 0600), 0);
+    Put("a", "FREQ x.\n");
+    Put("b", "FREQ x.\n");
+    m_options.timeLimit = 1;
+    const auto results = Convert({"a", "pipe", "b"});
+    EXPECT_EQ(results.size(), 3U);
+    EXPECT_EQ(results.at(0).problem, "");
+    EXPECT_EQ(results.at(1).problem, "it took longer than 1 s");
+    EXPECT_EQ(results.at(1).counts.filesFailed, 1U);
+    EXPECT_EQ(results.at(2).problem, "");
+}
+
+TEST_F(Pool, FileThatVanishedIsToldOf) {
+    const auto results = Convert({"gone"});
+    EXPECT_EQ(results.at(0).problem, "cannot be read: No such file or directory");
+    EXPECT_FALSE(results.at(0).notWritable);
+}
+
+TEST_F(Pool, CrashesInARowAreSurvived) {
+    m_options.jobs = 2;
+    std::vector<std::string> names;
+    for (int i = 0; i < 10; ++i) {
+        names.push_back(std::to_string(i));
+        Put(names.back(), i % 2 == 0 ? "TABLES /FORMAT=ZERO BLANK /TABLE sex.\n" : "FREQ x.\n");
+    }
+    const auto results = Convert(names);
+    for (std::uint64_t i = 0; i < 10; ++i) {
+        EXPECT_EQ(results.at(i).counts.filesFailed, i % 2 == 0 ? 1U : 0U) << i;
+    }
+}
+
+} // namespace
+
+} // namespace recastor
