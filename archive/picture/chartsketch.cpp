@@ -138,6 +138,7 @@ bool ChartPainter::IsNormalized() const {
 Json ChartPainter::Chart() const {
     constexpr std::array<const char*, 4> kForms{"plain", "clustered", "three", "pie"};
     const ChartModel& chart = m_facts.chart;
+    const bool hasAxes = m_facts.form == ChartForm::kPlain || m_facts.form == ChartForm::kClustered;
     Json elements = Json::array();
     for (const ChartElement* element : m_facts.drawn) {
         elements.push_back(std::visit(ElementSketch(), *element));
@@ -154,7 +155,7 @@ Json ChartPainter::Chart() const {
             {"color", Dimension(Find(chart.color))},
             {"style", Dimension(Find(chart.style))},
             {"size", Dimension(Find(chart.size))},
-            {"cluster", m_facts.form == ChartForm::kClustered ? NameOf(m_facts.cluster) : Json()},
+            {"cluster", hasAxes ? NameOf(m_facts.cluster) : Json()},
             {"slice", NameOf(m_facts.slice)},
             {"panels", panels},
             {"elements", elements},

@@ -26,7 +26,8 @@
 ///      "title", "subtitle", "caption": [line]}
 ///
 /// A dimension is {"label", "category": true or false, "legend": true or false}; `cluster` and
-/// `slice` say which of the others ("x", "color", "style") it is. An element is {"type": "point",
+/// `slice` say which of the others ("x", "color", "style") bars and boxes stand beside each other
+/// by, and a pie is sliced by. An element is {"type": "point",
 /// "bar", "area", "line", "dots", "pie", "box", "errorBar", "histogram" or "fitLine"} and, where
 /// they say more than that, {"curve": "linear", "step", "stepBefore", "stepAfter" or "smooth"},
 /// {"points": true}, {"cumulative": true}, {"density": true}, {"method": "linear", "mean" or

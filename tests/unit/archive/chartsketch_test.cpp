@@ -56,6 +56,14 @@ TEST(SketchOfChart, StackIsNoCluster) {
     EXPECT_EQ(Sketched(chart, "y"), R"({"label":"Percent","category":false,"legend":true})");
 }
 
+TEST(SketchOfChart, BarsBesideEachOtherAreAClusterAlsoWithALine) {
+    ChartModel chart = ChartOf(MeanBar());
+    chart.style = CategoryDimension("c");
+    chart.elements.emplace_back(MeanLine());
+    EXPECT_EQ(Sketched(chart, "form"), R"("plain")");
+    EXPECT_EQ(Sketched(chart, "cluster"), R"("style")");
+}
+
 TEST(SketchOfChart, ChartWithoutYCounts) {
     ChartModel chart = ChartOf(Bar());
     chart.y.reset();

@@ -1,0 +1,33 @@
+/// The first page of the HTML report: totals, and the list of files.
+#pragma once
+
+#include "archive/outcome/fileoutcome.h"
+
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace recastor {
+
+/// What is known of a run, for people: names and values.
+using ReportHeading = std::vector<std::pair<std::string, std::string>>;
+
+/// Writes the page to a stream as the files come, so that no file stays in memory. It holds all it
+/// needs and opens without network; files with a page are links.
+class ReportIndex {
+public:
+    /// The stream is not owned and must outlive the index.
+    ReportIndex(std::ostream& output, const ReportHeading& heading);
+
+    /// Adds a file. Texts and pictures of its commands are not needed.
+    void Add(const FileOutcome& outcome);
+    /// Ends the page. Nothing is written after it.
+    void End(const OutcomeCounts& totals);
+
+private:
+    std::ostream& m_output;
+    bool m_isFirst = true;
+};
+
+} // namespace recastor

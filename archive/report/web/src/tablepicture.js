@@ -1,0 +1,157 @@
+// A table's skeleton, drawn as a table.
+import { element } from './dom.js';
+import { depthOf, drawnHeaders, leavesOf } from './tableheaders.js';
+
+/** More rows or columns are not drawn. */
+const MOST_DRAWN = 80;
+
+function sample({ statistic }) {
+  if (statistic === undefined) {
+    return null;
+  }
+  return /PCT/.test(statistic.name) ? '00.0 %' : /COUNT|RESPONSES|VALIDN/.test(statistic.name)
+    ? '00' : '00.0';
+}
+
+function cut(headers) {
+  const kept = [];
+  let leaves = 0;
+  for (const header of headers) {
+    leaves += leavesOf(header).length;
+    if (leaves > MOST_DRAWN && kept.length > 0) {
+      kept.push({ text: `and ${headers.length - kept.length} more`, role: 'more', inside: [] });
+      break;
+    }
+    kept.push(header);
+  }
+  return kept;
+}
+
+/** The rows of cells above the columns, from the outermost headers inwards. */
+function columnHeaders(headers, depth) {
+  const rows = Array.from({ length: depth }, () => []);
+  const place = (header, level) => {
+    const isInnermost = header.inside.length === 0;
+    rows[level].push(element('th', {
+      scope: isInnermost ? 'col' : 'colgroup', class: header.role,
+      colspan: leavesOf(header).length, rowspan: isInnermost ? depth - level : 1,
+    }, header.text));
+    header.inside.forEach((inner) => place(inner, level + 1));
+  };
+  headers.forEach((header) => place(header, 0));
+  return rows;
+}
+
+/** For each row the cells in front of it, from the outermost headers inwards. */
+function rowHeaders(headers, depth) {
+  const rows = [];
+  const place = (header, level, cells) => {
+    const isInnermost = header.inside.length === 0;
+    const cell = element('th', {
+      scope: isInnermost ? 'row' : 'rowgroup', class: header.role,
+      rowspan: leavesOf(header).length, colspan: isInnermost ? depth - level : 1,
+    }, header.text);
+    if (isInnermost) {
+      rows.push([...cells, cell]);
+      return;
+    }
+    header.inside.forEach((inner, i) => place(inner, level + 1, i === 0 ? [...cells, cell] : []));
+  };
+  headers.forEach((header) => place(header, 0, []));
+  return rows;
+}
+
+function layerLine(headers) {
+  const names = (header) => header.inside.length === 0 ? [header.label ?? header.name]
+    : header.inside.flatMap(names).map((inner) => `${header.label ?? header.name} > ${inner}`);
+  return headers.flatMap(names).map((name) => element('li', {}, name));
+}
+
+const EMPTY = { text: '', role: 'empty', inside: [] };
+
+function grid(table, name) {
+  const [rows, columns] = [cut(drawnHeaders(table.rows)), cut(drawnHeaders(table.columns))];
+  const columnDepth = Math.max(1, depthOf(columns));
+  const rowDepth = Math.max(1, depthOf(rows));
+  const top = columnHeaders(columns.length > 0 ? columns : [EMPTY], columnDepth);
+  top[0].unshift(element('td', { class: 'corner', colspan: rowDepth, rowspan: columnDepth },
+    table.corner.join('\n')));
+  const columnLeaves = columns.length > 0 ? columns.flatMap(leavesOf) : [EMPTY];
+  const rowLeaves = rows.length > 0 ? rows.flatMap(leavesOf) : [EMPTY];
+  const front = rowHeaders(rows.length > 0 ? rows : [EMPTY], rowDepth);
+  const body = rowLeaves.map((row, i) => element('tr', {}, front[i],
+    columnLeaves.map((column) => element('td', {}, sample(column) ?? sample(row) ?? '00'))));
+  return element('table', { class: 'skeleton' },
+    element('caption', {}, table.title.length > 0 ? table.title.join('\n')
+      : element('span', { class: 'hidden' }, name)),
+    element('thead', {}, top.map((cells) => element('tr', {}, cells))),
+    element('tbody', {}, body));
+}
+
+function remarks(table, command) {
+  const said = [];
+  const { sorts, statisticsSide, statisticsNamed, movedLabels, caption } = table;
+  said.push(statisticsNamed ? `names of statistics in the ${statisticsSide ?? 'usual place'}`
+    : 'names of statistics hidden');
+  if (movedLabels !== null) {
+    said.push(`category labels of the ${movedLabels} on the opposite side`);
+  }
+  for (const { variable, ascending, key } of sorts) {
+    said.push(`${variable} sorted by ${key}, ${ascending ? 'ascending' : 'descending'}`);
+  }
+  said.push(`missing values ${table.missingIncluded ? 'included' : 'excluded'}`);
+  const missing = command.missingText === null ? '' : `, missing ones “${command.missingText}”`;
+  said.push(`empty cells ${command.emptyCells}${missing}`);
+  return [
+    caption.length > 0 ? element('p', { class: 'caption' }, caption.join('\n')) : null,
+    element('ul', { class: 'remarks' }, said.map((text) => element('li', {}, text))),
+  ];
+}
+
+/** A part that may be wider than its place; it can be scrolled with the keyboard. */
+function scrolled(part, name) {
+  return element('div', { class: 'scroll', role: 'group', 'aria-label': name, tabindex: 0 }, part);
+}
+
+function drawnTable(table, command, name) {
+  if ([table.rows, table.columns, table.layers].includes(null)) {
+    return [element('p', {}, 'This table is too large to be drawn.')];
+  }
+  const layers = table.layers.length === 0 ? null
+    : element('ul', { class: 'layers', 'aria-label': 'Layers' }, layerLine(table.layers));
+  return [layers, scrolled(grid(table, name), name),
+    ...remarks(table, command)];
+}
+
+/** The tables of a picture, one behind the other. */
+export function tablePicture(picture, name) {
+  return element('div', { class: 'picture' }, picture.tables.map((table, i) =>
+    drawnTable(table, picture, picture.tables.length > 1 ? `${name}, table ${i + 1}` : name)));
+}
+
+const isEqual = (one, other) => JSON.stringify(one) === JSON.stringify(other);
+
+/** The parts in which two pictures differ, for a reader; empty when they agree. */
+export function differencesOf(one, other) {
+  const parts = (left, right, prefix) => Object.keys(left)
+    .filter((key) => key !== 'tables' && !isEqual(left[key], right[key]))
+    .map((key) => prefix + key.replace(/[A-Z]/g, (letter) => ` ${letter.toLowerCase()}`));
+  if (one.tables.length !== other.tables.length) {
+    return ['number of tables'];
+  }
+  return [...parts(one, other, ''), ...one.tables.flatMap((table, i) =>
+    parts(table, other.tables[i], one.tables.length > 1 ? `table ${i + 1}: ` : ''))];
+}
+
+/** Both pictures of a command side by side, with a mark that says whether they agree. */
+export function tablePictures(oldPicture, newPicture) {
+  const differences = differencesOf(oldPicture, newPicture);
+  const mark = differences.length === 0
+    ? element('p', { class: 'mark good' }, 'Old and new make the same table.')
+    : element('p', { class: 'mark bad' }, `Old and new differ: ${differences.join(', ')}`);
+  return element('div', { class: 'tables' }, mark, element('div', { class: 'pair' },
+    element('div', { class: 'panel' }, element('h3', {}, 'Table of the old command'),
+      tablePicture(oldPicture, 'Table of the old command')),
+    element('div', { class: 'panel' }, element('h3', {}, 'Table of the new command'),
+      tablePicture(newPicture, 'Table of the new command'))));
+}

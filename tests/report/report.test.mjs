@@ -1,0 +1,193 @@
+// What users do with a report: scripts/check-report makes one and runs this.
+import assert from 'node:assert/strict';
+import { after, before, test } from 'node:test';
+import {
+  barriers, closeBrowser, openBrowser, openFile, screenshot, seeAll, withReport,
+} from './browser.mjs';
+
+before(openBrowser);
+after(closeBrowser);
+
+const MADE_UP = 10000;
+const FILES = MADE_UP + 5;
+const ROWS_A_PAGE = 100;
+
+const rows = (page) => page.locator('table.files tbody tr');
+const found = (page) => page.getByRole('status');
+const paths = (page) => page.locator('table.files tbody th').allInnerTexts();
+const column = (page, number) =>
+  page.locator(`table.files tbody tr > :nth-child(${number})`).allInnerTexts();
+
+test('the list shows its files a page at a time', () => withReport(async (page) => {
+  assert.equal(await rows(page).count(), ROWS_A_PAGE);
+  assert.equal(await found(page).innerText(), `${FILES.toLocaleString('en')} files`);
+  const first = await paths(page);
+  await page.getByRole('button', { name: 'Next' }).click();
+  const second = await paths(page);
+  assert.ok(second.every((path) => !first.includes(path)));
+  await page.getByRole('button', { name: 'Last' }).click();
+  assert.equal(await rows(page).count(), FILES % ROWS_A_PAGE);
+  assert.ok(await page.getByRole('button', { name: 'Next' }).isDisabled());
+}));
+
+test('the list filters by words and by outcome', () => withReport(async (page) => {
+  await page.getByLabel('Search').fill('EXAMPLES .syn');
+  assert.deepEqual(await paths(page),
+    ['examples/charts.syn', 'examples/customers.syn', 'examples/household.syn']);
+  await page.getByLabel('Show').selectOption('incomplete');
+  assert.deepEqual(await paths(page), ['examples/charts.syn']);
+  await page.getByRole('button', { name: 'Reset' }).click();
+  assert.equal(await found(page).innerText(), `${FILES.toLocaleString('en')} files`);
+  await page.getByLabel('Show').selectOption('what needs a look');
+  const outcomes = await column(page, 2);
+  const warnings = await column(page, 5);
+  assert.ok(outcomes.every((outcome, i) =>
+    !['copied', 'converted'].includes(outcome) || warnings[i] !== '0'));
+  await page.getByLabel('Search').fill('no file is called that');
+  assert.equal(await rows(page).count(), 0);
+}));
+
+test('the list sorts by every column, both ways', () => withReport(async (page) => {
+  for (const [number, name] of [[3, 'Converted'], [7, 'Copied']]) {
+    const header = page.getByRole('columnheader', { name, exact: true });
+    await header.getByRole('button').click();
+    assert.equal(await header.getAttribute('aria-sort'), 'ascending');
+    const ascending = (await column(page, number)).map(Number);
+    assert.deepEqual(ascending, [...ascending].sort((a, b) => a - b));
+    await header.getByRole('button').click();
+    assert.equal(await header.getAttribute('aria-sort'), 'descending');
+    const descending = (await column(page, number)).map(Number);
+    assert.deepEqual(descending, [...descending].sort((a, b) => b - a));
+    assert.ok(descending[0] > 0);
+  }
+}));
+
+test('going back finds the list as it was', () => withReport(async (page) => {
+  await page.getByLabel('Show').selectOption('converted');
+  await openFile(page, 'examples/household.syn');
+  await page.goBack();
+  assert.equal(await page.getByLabel('Search').inputValue(), 'examples/household.syn');
+  assert.deepEqual(await paths(page), ['examples/household.syn']);
+}));
+
+test('a file shows old and new side by side, with the lines of the input', () =>
+  withReport(async (page) => {
+    await openFile(page, 'examples/customers.syn');
+    const section = page.getByRole('region', { name: 'TABLES, lines 39 to 44' });
+    const [old, converted] = await section.locator('ol.code').all();
+    assert.equal(await old.locator('li').first().getAttribute('value'), '39');
+    assert.equal(await old.locator('li').last().getAttribute('value'), '44');
+    assert.match(await converted.innerText(), /^CTABLES/);
+    assert.ok((await old.locator('del').allInnerTexts()).includes('CPCT'));
+    assert.ok((await converted.locator('ins').allInnerTexts()).includes('CTABLES'));
+    assert.ok((await converted.locator('u').allInnerTexts()).includes("'All customers'"));
+    const boxes = await Promise.all([old, converted].map((one) => one.boundingBox()));
+    assert.ok(boxes[0].x + boxes[0].width <= boxes[1].x);
+    assert.match(await page.getByText('Obsolete form').innerText(), /has been ignored/);
+  }));
+
+test('both pictures of a table are there and agree', () => withReport(async (page) => {
+  await openFile(page, 'examples/customers.syn');
+  const section = page.getByRole('region', { name: 'TABLES, lines 49 to 57' });
+  assert.equal(await section.locator('.mark').innerText(), 'Old and new make the same table.');
+  const tables = await section.locator('table.skeleton').all();
+  assert.equal(tables.length, 2);
+  for (const table of tables) {
+    const headers = await table.locator('th').allInnerTexts();
+    for (const header of ['Reason for complaint', 'Wanted contact', 'Any', '% of answers']) {
+      assert.ok(headers.includes(header), header);
+    }
+  }
+}));
+
+test('pictures that differ are told, with the part', () => withReport(async (page) => {
+  await openFile(page, 'pictures/disagree.syn');
+  assert.equal(await page.locator('.mark').first().innerText(), 'Old and new differ: title');
+}));
+
+test('a command that cannot be converted says why', () => withReport(async (page) => {
+  await openFile(page, 'examples/charts.syn');
+  const section = page.getByRole('region', { name: 'IGRAPH, line 69' });
+  assert.match(await section.locator('.message.bad').innerText(), /cannot be converted/);
+}));
+
+for (const colorScheme of ['light', 'dark']) {
+  test(`every chart has a sketch, ${colorScheme}`, () => withReport(async (page) => {
+    await openFile(page, 'examples/charts.syn');
+    await seeAll(page);
+    const charts = await page.getByRole('region', { name: /^IGRAPH/ }).count();
+    assert.equal(charts, 9);
+    const sketches = page.getByRole('img', { name: /^Sketch: / });
+    assert.equal(await sketches.count(), charts);
+    for (const sketch of await sketches.all()) {
+      assert.ok(await sketch.locator('[role="graphics-symbol"], .mark-rect, .mark-arc, path')
+        .count() > 3);
+    }
+    await screenshot(page, `charts-${colorScheme}`);
+  }, { colorScheme }));
+
+  test(`lists and tables are accessible, ${colorScheme}`, () => withReport(async (page) => {
+    assert.deepEqual(await barriers(page), []);
+    await screenshot(page, `index-${colorScheme}`);
+    await openFile(page, 'examples/household.syn');
+    assert.deepEqual(await barriers(page), []);
+    await screenshot(page, `tables-${colorScheme}`);
+  }, { colorScheme }));
+}
+
+test('sketches of charts are accessible', () => withReport(async (page) => {
+  await openFile(page, 'examples/charts.syn');
+  await seeAll(page);
+  assert.deepEqual(await barriers(page), []);
+}));
+
+test('light and dark look different', async () => {
+  const papers = [];
+  for (const colorScheme of ['light', 'dark']) {
+    await withReport(async (page) => {
+      papers.push(await page.evaluate(() => getComputedStyle(document.body).backgroundColor));
+    }, { colorScheme });
+  }
+  assert.notEqual(papers[0], papers[1]);
+});
+
+test('hostile names and texts are shown as texts', () => withReport(async (page) => {
+  const markup = "<script>document.title='broken'</script>&amp;\"'";
+  const link = page.locator('table.files a').first();
+  assert.ok((await link.innerText()).startsWith(`${markup}/`));
+  await link.click();
+  const heading = page.getByRole('heading', { level: 1 });
+  assert.ok((await heading.innerText()).startsWith(`${markup}/`));
+  assert.notEqual(await page.title(), 'broken');
+  assert.equal(await page.getByText(markup, { exact: true }).count(), 3);
+  assert.equal(await page.locator('main script').count(), 0);
+  await screenshot(page, 'hostile');
+}));
+
+test('everything can be done with the keyboard', () => withReport(async (page) => {
+  const focused = () => page.evaluate(() => document.activeElement.innerText);
+  await page.keyboard.press('Tab');
+  assert.equal(await focused(), 'Skip to the content');
+  await page.keyboard.press('Enter');
+  await page.keyboard.press('Tab');
+  await page.keyboard.type('examples');
+  assert.equal(await rows(page).count(), 3);
+  await page.keyboard.press('Tab');
+  await page.keyboard.press('Tab');
+  assert.equal(await focused(), 'Reset');
+  await page.keyboard.press('Tab');
+  assert.equal(await focused(), 'File');
+  await page.keyboard.press('Enter');
+  assert.equal((await paths(page))[0], 'examples/household.syn');
+  for (let i = 0; await focused() !== 'examples/household.syn'; i += 1) {
+    assert.ok(i < 20);
+    await page.keyboard.press('Tab');
+  }
+  await page.keyboard.press('Enter');
+  await page.getByRole('heading', { level: 1, name: 'examples/household.syn' }).waitFor();
+  await page.keyboard.press('Tab');
+  await page.keyboard.press('Tab');
+  assert.equal(await focused(), 'All files');
+  await page.keyboard.press('Enter');
+  await found(page).waitFor();
+}));
