@@ -52,8 +52,12 @@ ReportIndex::ReportIndex(std::ostream& output, const ReportHeading& heading) : m
              << "{\"heading\":" << InScript(json) << ",\"files\":[";
 }
 
-void ReportIndex::Add(const FileOutcome& outcome) {
-    m_output << (m_isFirst ? "\n" : ",\n") << InScript(RowOf(outcome));
+std::string IndexRow(const FileOutcome& outcome) {
+    return InScript(RowOf(outcome));
+}
+
+void ReportIndex::AddRow(const std::string& row) {
+    m_output << (m_isFirst ? "\n" : ",\n") << row;
     m_isFirst = false;
 }
 

@@ -13,6 +13,9 @@ namespace recastor {
 /// What is known of a run, for people: names and values.
 using ReportHeading = std::vector<std::pair<std::string, std::string>>;
 
+/// What the page's list says of a file. Texts and pictures of its commands are not needed.
+std::string IndexRow(const FileOutcome& outcome);
+
 /// Writes the page to a stream as the files come, so that no file stays in memory. It holds all it
 /// needs and opens without network; files with a page are links.
 class ReportIndex {
@@ -20,8 +23,10 @@ public:
     /// The stream is not owned and must outlive the index.
     ReportIndex(std::ostream& output, const ReportHeading& heading);
 
-    /// Adds a file. Texts and pictures of its commands are not needed.
-    void Add(const FileOutcome& outcome);
+    /// Adds a file.
+    void Add(const FileOutcome& outcome) { AddRow(IndexRow(outcome)); }
+    /// The same; `row` was made by IndexRow().
+    void AddRow(const std::string& row);
     /// Ends the page. Nothing is written after it.
     void End(const OutcomeCounts& totals);
 

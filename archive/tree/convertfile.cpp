@@ -3,6 +3,7 @@
 #include "archive/outcome/shownpath.h"
 #include "archive/outcome/showntext.h"
 #include "archive/tree/outcomerecorder.h"
+#include "archive/tree/pages.h"
 #include "archive/tree/samecontent.h"
 #include "archive/tree/systemerror.h"
 #include "archive/tree/version.h"
@@ -42,6 +43,19 @@ bool HasHash(const std::string& fullPath, const std::string& hash) {
     }
 }
 
+/// A page that cannot be written leaves the target as good as it is.
+void AddPage(const FileOutcome& outcome, const TreeOptions& options, FileResult& result) {
+    if (options.report.empty()) {
+        return;
+    }
+    try {
+        WritePage(options.report, outcome);
+    } catch (const FileError& error) {
+        result.problem += (result.problem.empty() ? "" : "; ") + std::string(error.what());
+        result.notWritable = true;
+    }
+}
+
 /// Where the text of a run goes that writes no targets.
 FileDescriptor FileInMemory() {
     FileDescriptor file(::memfd_create("target", MFD_CLOEXEC));
@@ -70,6 +84,13 @@ FileResult ResultOf(const OutcomeRecord& record) {
     return result;
 }
 
+FileResult ResultWithoutTarget(const FileOutcome& outcome, const TreeOptions& options) {
+    FileResult result = ResultOf({outcome, {kVersion, options.Settings()}});
+    result.problem = outcome.message;
+    AddPage(outcome, options, result);
+    return result;
+}
+
 FileConverter::FileConverter(const TreeOptions& options) :
     m_options(options), m_by{kVersion, options.Settings()},
     m_folder(options.target, options.source) {}
@@ -86,10 +107,11 @@ FileResult FileConverter::Convert(const FileJob& job) {
     FileOutcome outcome = ConvertAnew(job, circumstances);
     outcome.milliseconds =
         std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-    FileResult result = ResultOf({std::move(outcome), m_by});
+    FileResult result = ResultOf({outcome, m_by});
     result.problem = circumstances.problem;
     result.wouldChange = circumstances.wouldChange;
     result.notWritable = circumstances.notWritable;
+    AddPage(outcome, m_options, result);
     return result;
 }
 
@@ -103,9 +125,10 @@ bool FileConverter::BringUpToDate(OutcomeRecord& record, const std::string& path
                           record.by.settings == m_by.settings && outcome.path == path &&
                           outcome.status != FileStatus::kFailed &&
                           outcome.status != FileStatus::kSkipped;
-    if (!sameWork || !target || !S_ISREG(target->st_mode) ||
-        ::stat(SourcePath(path).c_str(), &source) != 0 || Size(source) != outcome.sourceSize ||
-        Size(*target) != outcome.targetSize || Nanoseconds(target->st_mtim) != outcome.modified) {
+    if (!sameWork || !HasItsPage(m_options.report, outcome) || !target ||
+        !S_ISREG(target->st_mode) || ::stat(SourcePath(path).c_str(), &source) != 0 ||
+        Size(source) != outcome.sourceSize || Size(*target) != outcome.targetSize ||
+        Nanoseconds(target->st_mtim) != outcome.modified) {
         return false;
     }
     if (Nanoseconds(source.st_mtim) == outcome.modified) {
@@ -180,7 +203,8 @@ void FileConverter::ConvertText(InputFile& input, const FileDescriptor& target,
         shownAs = TextShower::kLikeliest8Bit;
     }
     const TextShower shower(shownAs);
-    OutcomeRecorder recorder(outcome, shower);
+    OutcomeRecorder recorder(outcome, shower,
+                             m_options.report.empty() ? Pictures::kNone : Pictures::kDrawn);
     LineWriteBuffer buffer(target);
     if (input.HasCrLf()) {
         buffer.UseCrLf();

@@ -35,6 +35,9 @@ struct FileResult {
 /// The result for a file that became what `record` says, and nothing else is known of.
 FileResult ResultOf(const OutcomeRecord& record);
 
+/// The result for a file that there is no target of, with its page. `outcome` tells why.
+FileResult ResultWithoutTarget(const FileOutcome& outcome, const TreeOptions& options);
+
 /// Converts file after file. One for each process, since encodings are the process's.
 class FileConverter {
 public:

@@ -2,6 +2,7 @@
 #include "archive/outcome/shownpath.h"
 #include "archive/tree/folders.h"
 #include "archive/tree/manifest.h"
+#include "archive/tree/pages.h"
 #include "archive/tree/reports.h"
 #include "archive/tree/systemerror.h"
 #include "archive/tree/treerun.h"
@@ -62,12 +63,14 @@ std::vector<std::string> ManifestsOf(const TreeOptions& options) {
 OutcomeCounts Join(const TreeOptions& options, const RunInfo& run) {
     OutcomeCounts totals;
     WholeFile joined(RunManifest::FileName(options.report));
-    ReportFiles reports(options.report);
+    ReportFiles reports(options.report, run);
+    PreparePages(options.report);
     MergedManifests manifests(ManifestsOf(options));
     while (manifests.Next()) {
         if (const auto record = ReadOutcomeLine(manifests.Line())) {
             joined.Stream() << manifests.Line() << '\n';
             reports.Add(RowsOf(*record));
+            CopyPage(options.merge[manifests.Current()], options.report, record->outcome);
             totals += CountsOf(record->outcome);
         }
     }

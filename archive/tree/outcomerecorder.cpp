@@ -1,10 +1,14 @@
 #include "archive/tree/outcomerecorder.h"
 
+#include "archive/picture/skeletonofctables.h"
+#include "archive/picture/skeletonoftree.h"
 #include "ctables/recastor/printcommand.h"
+#include "platform/zelkwigr/igraphspec.h"
 
 #include <algorithm>
 #include <array>
 #include <sstream>
+#include <stdexcept>
 
 namespace recastor {
 
@@ -67,9 +71,23 @@ void OutcomeRecorder::OnCommand(ReportedKind kind, std::int64_t firstLine, std::
     }
 }
 
+void OutcomeRecorder::OnTree(const TbTrParseNode& root) {
+    Draw(&CommandOutcome::oldPicture,
+         [&] { return PictureOfTables(SkeletonOfTree(root), Decoder()); });
+}
+
+void OutcomeRecorder::OnChart(const iGraphSpec& spec) {
+    Draw(&CommandOutcome::chartSketch, [&] { return SketchOfChart(spec.Chart(), Decoder()); });
+}
+
 void OutcomeRecorder::OnConverted(std::string_view text, const std::vector<std::string>& warnings) {
     CommandOutcome& command = m_outcome.commands.back();
-    command.newText = m_shower.Shown(AsWritten(text));
+    const std::string written = AsWritten(text);
+    command.newText = m_shower.Shown(written);
+    if (command.kind == ReportedKind::kTables) {
+        Draw(&CommandOutcome::newPicture,
+             [&] { return PictureOfTables(SkeletonOfCtables(written), Decoder()); });
+    }
     for (const std::string& warning : warnings) {
         command.warnings.push_back(m_shower.Shown(warning));
     }
@@ -93,6 +111,23 @@ void OutcomeRecorder::OnEnd(const ConversionError& error) {
         m_outcome.commands.push_back(m_current);
     }
     m_outcome.commands.back().error = Shown(error);
+}
+
+/// A command whose form the pictures do not know goes without one: it is converted all the same.
+void OutcomeRecorder::Draw(std::string CommandOutcome::*picture,
+                           const std::function<std::string()>& draw) {
+    if (m_pictures == Pictures::kNone) {
+        return;
+    }
+    try {
+        m_outcome.commands.back().*picture = draw();
+    } catch (const std::invalid_argument&) {
+        (m_outcome.commands.back().*picture).clear();
+    }
+}
+
+TextDecoder OutcomeRecorder::Decoder() const {
+    return [this](std::string_view text) { return m_shower.Shown(text); };
 }
 
 ConversionError OutcomeRecorder::Shown(const ConversionError& error) const {

@@ -52,6 +52,7 @@ std::string PacketOf(const FileResult& result) {
     Put(result.line, content);
     Put(result.rows.csv, content);
     Put(result.rows.sarif, content);
+    Put(result.rows.index, content);
     Put(result.counts, content);
     Put(result.problem, content);
     Put(result.unchanged, content);
@@ -89,6 +90,7 @@ FileResult ResultOf(std::string_view packet) {
     result.line = Take<std::string>(packet);
     result.rows.csv = Take<std::string>(packet);
     result.rows.sarif = Take<std::string>(packet);
+    result.rows.index = Take<std::string>(packet);
     result.counts = Take<OutcomeCounts>(packet);
     result.problem = Take<std::string>(packet);
     result.unchanged = Take<bool>(packet);

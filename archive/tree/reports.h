@@ -1,7 +1,8 @@
-/// The forms in which a manifest is reported: report.json, report.csv and report.sarif.
+/// The forms in which a manifest is reported: index.html, report.json, report.csv and report.sarif.
 #pragma once
 
 #include "archive/outcome/outcomejson.h"
+#include "archive/report/reportindex.h"
 #include "archive/tree/runinfo.h"
 #include "archive/tree/wholefile.h"
 
@@ -15,6 +16,7 @@ namespace recastor {
 struct ReportRows {
     std::string csv;   ///< a row with its line end
     std::string sarif; ///< results, a comma and a line feed between; mostly empty
+    std::string index; ///< a row of the HTML report's list
 };
 ReportRows RowsOf(const OutcomeRecord& record);
 
@@ -22,7 +24,7 @@ ReportRows RowsOf(const OutcomeRecord& record);
 class ReportFiles {
 public:
     /// Throws FileError when they cannot be written.
-    explicit ReportFiles(const std::string& reportFolder);
+    ReportFiles(const std::string& reportFolder, const RunInfo& run);
 
     /// Adds a file, in the manifest's order.
     void Add(const ReportRows& rows);
@@ -34,6 +36,8 @@ private:
     std::string m_folder;
     WholeFile m_csv;
     WholeFile m_sarif;
+    WholeFile m_html;
+    ReportIndex m_index;
     bool m_anyResult = false;
 };
 

@@ -5,12 +5,12 @@
 #include "archive/tree/folders.h"
 #include "archive/tree/interrupt.h"
 #include "archive/tree/manifest.h"
+#include "archive/tree/pages.h"
 #include "archive/tree/progress.h"
 #include "archive/tree/reports.h"
 #include "archive/tree/systemerror.h"
 #include "archive/tree/treesummary.h"
 #include "archive/tree/treewalk.h"
-#include "archive/tree/version.h"
 #include "archive/tree/workerpool.h"
 
 #include <iostream>
@@ -44,14 +44,13 @@ FileResult ResultOf(const WalkEntry& entry, const TreeOptions& options) {
     outcome.path = entry.path;
     outcome.status = entry.failed ? FileStatus::kFailed : FileStatus::kSkipped;
     outcome.message = entry.problem;
-    FileResult result = ResultOf(OutcomeRecord{std::move(outcome), {kVersion, options.Settings()}});
-    result.problem = entry.problem;
-    return result;
+    return ResultWithoutTarget(outcome, options);
 }
 
 /// What a run writes into its report folder while it lasts.
 struct Records {
-    explicit Records(const std::string& folder) : manifest(folder), reports(folder) {}
+    Records(const std::string& folder, const RunInfo& info) :
+        manifest(folder), reports(folder, info) {}
 
     void Add(const FileResult& result) {
         manifest.Add(result.line);
@@ -90,7 +89,8 @@ public:
         m_walk(options) {
         if (!options.report.empty()) {
             WriteRunInfo(options.report, m_info);
-            m_records.emplace(options.report);
+            PreparePages(options.report);
+            m_records.emplace(options.report, m_info);
         }
     }
 

@@ -25,7 +25,7 @@ void PrintSummary(const TreeTotals& totals, const TreeOptions& options, std::ost
         output << totals.wouldChange << " targets would change\n";
     }
     if (!options.report.empty()) {
-        output << "report: " << ShownPath(options.report) << "/report.json\n";
+        output << "report: " << ShownPath(options.report) << "/index.html\n";
     }
 }
 

@@ -3,7 +3,6 @@
 #include "archive/outcome/showntext.h"
 #include "archive/tree/packet.h"
 #include "archive/tree/systemerror.h"
-#include "archive/tree/version.h"
 #include "archive/tree/worker.h"
 
 #include <algorithm>
@@ -194,8 +193,7 @@ void WorkerPool::Replace(Worker& worker, const std::string& reason) {
         FileOutcome outcome;
         outcome.path = jobs.front().job.path;
         outcome.message = reason;
-        FileResult result = ResultOf({std::move(outcome), {kVersion, m_options.Settings()}});
-        result.problem = reason;
+        FileResult result = ResultWithoutTarget(outcome, m_options);
         const std::uint64_t number = jobs.front().number;
         jobs.pop_front();
         m_take(number, std::move(result));

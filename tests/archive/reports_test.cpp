@@ -1,5 +1,6 @@
 // The reports are what their formats say.
 
+#include "archive/report/filepage.h"
 #include "tests/archive/archivetree.h"
 
 #include <valijson/adapters/nlohmann_json_adapter.hpp>
@@ -14,6 +15,7 @@ namespace recastor {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 namespace {
 
@@ -130,6 +132,38 @@ TEST_F(Reports, SarifNamesThePlaceOfEachResult) {
                             "{\"startColumn\":10,\"startLine\":1}",
                             "d/wrong.syn command-not-converted error {\"startLine\":2}",
                             "e.syn file-skipped warning null"));
+}
+
+TEST_F(Reports, EveryFileWithSomethingToShowHasAPage) {
+    const std::string index = ReadFile(m_report / "index.html");
+    for (const std::string path : {"a,\"b\".syn", "d/crash.syn", "d/ended.syn", "e.syn"}) {
+        const std::string page = FilePageName(path);
+        EXPECT_TRUE(fs::exists(m_report / page)) << path;
+        EXPECT_THAT(index, HasSubstr(page));
+    }
+    EXPECT_TRUE(fs::exists(m_report / "assets/file.js"));
+    EXPECT_TRUE(fs::exists(m_report / "assets/report.css"));
+}
+
+TEST_F(Reports, PageShowsTheCommandsAndPicturesOfBothForms) {
+    const std::string page = ReadFile(m_report / FilePageName("a,\"b\".syn"));
+    EXPECT_THAT(page, HasSubstr(R"("oldText":"TABLES /WRITE x /TABLE sex.")"));
+    EXPECT_THAT(page, HasSubstr(R"("newText":"CTABLES\n)"));
+    EXPECT_THAT(page, HasSubstr(R"("oldPicture":{"emptyCells")"));
+    EXPECT_THAT(page, HasSubstr(R"("newPicture":{"emptyCells")"));
+}
+
+TEST_F(Reports, ChartIsSketched) {
+    Put("chart.syn", "IGRAPH /X1=VAR(sex) TYPE=CATEGORICAL /Y=$count /BAR.\n");
+    Run();
+    EXPECT_THAT(ReadFile(m_report / FilePageName("chart.syn")),
+                HasSubstr(R"("chartSketch":{"form":"plain")"));
+}
+
+TEST_F(Reports, PageThatIsMissingIsMadeAgain) {
+    fs::remove(m_report / FilePageName("d/wrong.syn"));
+    Run();
+    EXPECT_TRUE(fs::exists(m_report / FilePageName("d/wrong.syn")));
 }
 
 TEST_F(Reports, ReportsOfTheSameManifestAreTheSame) {

@@ -67,6 +67,9 @@ TEST_F(Shards, MergedReportIsThatOfASingleRun) {
     EXPECT_EQ(Comparable(ReadJson(report / "report.json")), Comparable(Report()));
     EXPECT_EQ(ReadJson(report / "report.sarif").at("runs").at(0).at("results"),
               ReadJson(m_report / "report.sarif").at("runs").at(0).at("results"));
+    for (const auto& page : fs::directory_iterator(m_report / "files")) {
+        EXPECT_EQ(ReadFile(report / "files" / page.path().filename()), ReadFile(page.path()));
+    }
     EXPECT_EQ(ReadJson(report / "report.json").at("run").at("present"),
               nlohmann::json({1, 2, 3, 4}));
     EXPECT_EQ(merged.output.substr(0, merged.output.find("report:")),
