@@ -13,7 +13,7 @@ using testing::HasSubstr;
 
 namespace {
 
-const std::string kRecipes = RECASTOR_ROOT "/examples/scale-out/";
+const std::string kRecipes = RECASTOR_ROOT "/docs/scale-out/";
 
 class ScaleOut : public ArchiveTree {
 protected:
