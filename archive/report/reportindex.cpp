@@ -42,14 +42,10 @@ Json JsonOf(const OutcomeCounts& totals) {
 
 } // namespace
 
-ReportIndex::ReportIndex(std::ostream& output, const ReportHeading& heading) : m_output(output) {
-    Json json = Json::object();
-    for (const auto& [name, value] : heading) {
-        json[name] = value;
-    }
+ReportIndex::ReportIndex(std::ostream& output) : m_output(output) {
     m_output << PageStart("Converted files",
                           "<style>" + std::string(ReportAsset("report.css")) + "</style>\n")
-             << "{\"heading\":" << InScript(json) << ",\"files\":[";
+             << "{\"files\":[";
 }
 
 std::string IndexRow(const FileOutcome& outcome) {
@@ -61,9 +57,13 @@ void ReportIndex::AddRow(const std::string& row) {
     m_isFirst = false;
 }
 
-void ReportIndex::End(const OutcomeCounts& totals) {
-    m_output << "\n],\"totals\":" << InScript(JsonOf(totals)) << '}'
-             << PageEnd("<script>" + std::string(ReportAsset("index.js")) + "</script>");
+void ReportIndex::End(const ReportHeading& heading, const OutcomeCounts& totals) {
+    Json json = Json::object();
+    for (const auto& [name, value] : heading) {
+        json[name] = value;
+    }
+    m_output << "\n],\"heading\":" << InScript(json) << ",\"totals\":" << InScript(JsonOf(totals))
+             << '}' << PageEnd("<script>" + std::string(ReportAsset("index.js")) + "</script>");
 }
 
 } // namespace recastor

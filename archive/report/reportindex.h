@@ -21,14 +21,14 @@ std::string IndexRow(const FileOutcome& outcome);
 class ReportIndex {
 public:
     /// The stream is not owned and must outlive the index.
-    ReportIndex(std::ostream& output, const ReportHeading& heading);
+    explicit ReportIndex(std::ostream& output);
 
     /// Adds a file.
     void Add(const FileOutcome& outcome) { AddRow(IndexRow(outcome)); }
     /// The same; `row` was made by IndexRow().
     void AddRow(const std::string& row);
     /// Ends the page. Nothing is written after it.
-    void End(const OutcomeCounts& totals);
+    void End(const ReportHeading& heading, const OutcomeCounts& totals);
 
 private:
     std::ostream& m_output;

@@ -63,7 +63,7 @@ std::vector<std::string> ManifestsOf(const TreeOptions& options) {
 OutcomeCounts Join(const TreeOptions& options, const RunInfo& run) {
     OutcomeCounts totals;
     WholeFile joined(RunManifest::FileName(options.report));
-    ReportFiles reports(options.report, run);
+    ReportFiles reports(options.report);
     PreparePages(options.report);
     MergedManifests manifests(ManifestsOf(options));
     while (manifests.Next()) {

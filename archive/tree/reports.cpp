@@ -1,17 +1,26 @@
 #include "archive/tree/reports.h"
 
+#include "archive/outcome/shownpath.h"
 #include "archive/outcome/timestamp.h"
 
 namespace recastor {
 
 namespace {
 
+/// What the page says of a run that is over.
 ReportHeading HeadingOf(const RunInfo& run) {
-    return {{"Source", run.source},
-            {"Target", run.target},
-            {"Converter", run.converter},
-            {"Settings", run.settings},
-            {"Started", Timestamp(run.started)}};
+    ReportHeading heading{
+        {"Source", ShownPath(run.source)},          {"Target", ShownPath(run.target)},
+        {"Converter", "recastor " + run.converter}, {"Settings", run.settings},
+        {"Started", Timestamp(run.started)},        {"Finished", Timestamp(run.finished)}};
+    if (run.shards > 1) {
+        heading.emplace_back("Shards", std::to_string(run.present.size()) + " of " +
+                                           std::to_string(run.shards));
+    }
+    if (run.interrupted) {
+        heading.emplace_back("Not complete", "not every file was come to");
+    }
+    return heading;
 }
 
 } // namespace
@@ -20,10 +29,10 @@ ReportRows RowsOf(const OutcomeRecord& record) {
     return {CsvRow(record), SarifResults(record), IndexRow(record.outcome)};
 }
 
-ReportFiles::ReportFiles(const std::string& reportFolder, const RunInfo& run) :
+ReportFiles::ReportFiles(const std::string& reportFolder) :
     m_folder(reportFolder), m_csv(reportFolder + "/report.csv"),
     m_sarif(reportFolder + "/report.sarif"), m_html(reportFolder + "/index.html"),
-    m_index(m_html.Stream(), HeadingOf(run)) {
+    m_index(m_html.Stream()) {
     m_csv.Stream() << CsvHeader();
     m_sarif.Stream() << SarifStart();
 }
@@ -45,7 +54,7 @@ void ReportFiles::Finish(const RunInfo& run, const OutcomeCounts& totals) {
     m_csv.Finish();
     m_sarif.Stream() << SarifEnd(run);
     m_sarif.Finish();
-    m_index.End(totals);
+    m_index.End(HeadingOf(run), totals);
     m_html.Finish();
 }
 

@@ -24,7 +24,7 @@ ReportRows RowsOf(const OutcomeRecord& record);
 class ReportFiles {
 public:
     /// Throws FileError when they cannot be written.
-    ReportFiles(const std::string& reportFolder, const RunInfo& run);
+    explicit ReportFiles(const std::string& reportFolder);
 
     /// Adds a file, in the manifest's order.
     void Add(const ReportRows& rows);

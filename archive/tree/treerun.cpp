@@ -49,8 +49,7 @@ FileResult ResultOf(const WalkEntry& entry, const TreeOptions& options) {
 
 /// What a run writes into its report folder while it lasts.
 struct Records {
-    Records(const std::string& folder, const RunInfo& info) :
-        manifest(folder), reports(folder, info) {}
+    explicit Records(const std::string& folder) : manifest(folder), reports(folder) {}
 
     void Add(const FileResult& result) {
         manifest.Add(result.line);
@@ -90,7 +89,7 @@ public:
         if (!options.report.empty()) {
             WriteRunInfo(options.report, m_info);
             PreparePages(options.report);
-            m_records.emplace(options.report, m_info);
+            m_records.emplace(options.report);
         }
     }
 

@@ -120,7 +120,7 @@ void WriteReport(const fs::path& folder, const std::vector<FileOutcome>& files, 
         WriteFile(folder / "assets" / asset, std::string(ReportAsset(asset)));
     }
     std::ofstream page(folder / "index.html");
-    ReportIndex index(page, {{"Source", "survey/<archive>"}, {"Converter", "recastor 0.1.0"}});
+    ReportIndex index(page);
     OutcomeCounts totals;
     for (const FileOutcome& file : files) {
         WriteFile(folder / FilePageName(file.path), FilePage(file));
@@ -136,7 +136,7 @@ void WriteReport(const fs::path& folder, const std::vector<FileOutcome>& files, 
         index.Add(file);
         totals += CountsOf(file);
     }
-    index.End(totals);
+    index.End({{"Source", "survey/<archive>"}, {"Converter", "recastor 0.1.0"}}, totals);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ using testing::Not;
 
 TEST(ReportIndex, CarriesHeadingFilesAndTotals) {
     std::ostringstream page;
-    ReportIndex index(page, {{"Source", "<a>"}, {"Target", "b"}});
+    ReportIndex index(page);
     FileOutcome copied;
     copied.path = "<b>";
     copied.status = FileStatus::kCopied;
@@ -34,7 +34,7 @@ TEST(ReportIndex, CarriesHeadingFilesAndTotals) {
     index.Add(ended);
     OutcomeCounts totals = CountsOf(copied);
     totals += CountsOf(ended);
-    index.End(totals);
+    index.End({{"Source", "<a>"}, {"Target", "b"}}, totals);
 
     const std::string text = page.str();
     EXPECT_THAT(text, Not(HasSubstr("<b>")));
@@ -53,7 +53,7 @@ TEST(ReportIndex, CarriesHeadingFilesAndTotals) {
 
 TEST(ReportIndex, HoldsAllItNeeds) {
     std::ostringstream page;
-    ReportIndex(page, {}).End({});
+    ReportIndex(page).End({}, {});
     EXPECT_THAT(page.str(), HasSubstr(ReportAsset("index.js")));
     EXPECT_THAT(page.str(), HasSubstr(ReportAsset("report.css")));
     EXPECT_THAT(page.str(), Not(HasSubstr(" src=")));
