@@ -1,14 +1,12 @@
+#include "archive/outcome/jsonwriter.h"
 #include "archive/picture/picturejson.h"
 #include "platform/zelkwigr/chartlabels.h"
 
 #include <array>
-#include <nlohmann/json.hpp>
 
 namespace recastor {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 const char* CurveName(Interpolation interpolation) {
     switch (interpolation) {
@@ -28,149 +26,196 @@ const char* CurveName(Interpolation interpolation) {
     }
 }
 
-/// An element as it is drawn; each kind says what its sketch needs.
-struct ElementSketch {
-    Json operator()(const Scatter&) const { return {{"type", "point"}}; }
-    Json operator()(const Bar&) const { return {{"type", "bar"}}; }
-    Json operator()(const Area& area) const {
-        return {{"type", "area"}, {"curve", CurveName(area.interpolation)}};
+/// Writes an element as it is drawn; each kind says what its sketch needs.
+class ElementSketch {
+public:
+    explicit ElementSketch(JsonWriter& json) : m_json(json) {}
+
+    void operator()(const Scatter&) const { Type("point"); }
+    void operator()(const Bar&) const { Type("bar"); }
+    void operator()(const Area& area) const {
+        Type("area");
+        m_json.Member("curve", CurveName(area.interpolation));
     }
-    Json operator()(const Line& line) const {
+    void operator()(const Line& line) const {
         if (line.style == Line::Style::kDot) {
-            return {{"type", "dots"}};
+            Type("dots");
+            return;
         }
-        return {{"type", "line"},
-                {"curve", CurveName(line.interpolation)},
-                {"points", line.style == Line::Style::kDotLine}};
+        Type("line");
+        m_json.Member("curve", CurveName(line.interpolation));
+        m_json.Member("points", line.style == Line::Style::kDotLine);
     }
-    Json operator()(const Pie&) const { return {{"type", "pie"}}; }
-    Json operator()(const Box&) const { return {{"type", "box"}}; }
-    Json operator()(const ErrorBar& bar) const {
-        return {{"type", "errorBar"}, {"points", bar.symbol}};
+    void operator()(const Pie&) const { Type("pie"); }
+    void operator()(const Box&) const { Type("box"); }
+    void operator()(const ErrorBar& bar) const {
+        Type("errorBar");
+        m_json.Member("points", bar.symbol);
     }
-    Json operator()(const Histogram& histogram) const {
-        return {{"type", "histogram"},
-                {"cumulative", histogram.cumulative},
-                {"density", histogram.curve && !histogram.cumulative}};
+    void operator()(const Histogram& histogram) const {
+        Type("histogram");
+        m_json.Member("cumulative", histogram.cumulative);
+        m_json.Member("density", histogram.curve && !histogram.cumulative);
     }
-    Json operator()(const FitLine& line) const {
-        const char* const method = line.method == FitLine::Method::kMean    ? "mean"
-                                   : line.method == FitLine::Method::kLoess ? "loess"
-                                                                            : "linear";
-        return {{"type", "fitLine"}, {"method", method}, {"groups", line.eachGroup}};
+    void operator()(const FitLine& line) const {
+        Type("fitLine");
+        m_json.Member("method", line.method == FitLine::Method::kMean    ? "mean"
+                                : line.method == FitLine::Method::kLoess ? "loess"
+                                                                         : "linear");
+        m_json.Member("groups", line.eachGroup);
     }
+
+private:
+    void Type(const char* type) const { m_json.Member("type", type); }
+
+    JsonWriter& m_json;
 };
 
-/// Makes JSON of charts.
+/// Writes charts as JSON.
 class ChartPainter {
 public:
     ChartPainter(const ChartModel& chart, const TextDecoder& decode) :
         m_facts(chart), m_decode(decode) {}
 
-    Json Chart() const;
+    void Chart();
+    const std::string& Json() const { return m_json.Text(); }
 
 private:
-    Json Lines(const std::vector<std::string>& lines) const;
-    Json Dimension(const ChartDimension* dimension, const std::vector<std::string>& label) const;
-    Json Dimension(const ChartDimension* dimension) const;
-    Json NameOf(const ChartDimension* dimension) const;
-    Json References() const;
+    void Lines(const char* name, const std::vector<std::string>& lines);
+    void Dimension(const char* name, const ChartDimension* dimension,
+                   const std::vector<std::string>& label);
+    void Dimension(const char* name, const std::optional<ChartDimension>& dimension);
+    void NameOf(const char* name, const ChartDimension* dimension);
+    void Panels();
+    void Elements();
+    void References();
     bool IsNormalized() const;
 
     ChartFacts m_facts;
     const TextDecoder& m_decode;
+    JsonWriter m_json;
 };
 
-Json ChartPainter::Lines(const std::vector<std::string>& lines) const {
-    Json list = Json::array();
+void ChartPainter::Lines(const char* name, const std::vector<std::string>& lines) {
+    m_json.Key(name);
+    m_json.BeginArray();
     for (const std::string& line : lines) {
-        list.push_back(m_decode(line));
+        m_json.String(m_decode(line));
     }
-    return list;
+    m_json.EndArray();
 }
 
-Json ChartPainter::Dimension(const ChartDimension* dimension,
-                             const std::vector<std::string>& label) const {
+void ChartPainter::Dimension(const char* name, const ChartDimension* dimension,
+                             const std::vector<std::string>& label) {
+    m_json.Key(name);
     if (dimension == nullptr) {
-        return {};
+        m_json.Null();
+        return;
     }
     std::string text;
     for (const std::string& line : label) {
         text += (text.empty() ? "" : " ") + m_decode(line);
     }
-    return {{"label", text}, {"category", IsCategorical(dimension)}, {"legend", dimension->legend}};
+    m_json.BeginObject();
+    m_json.Member("label", text);
+    m_json.Member("category", IsCategorical(dimension));
+    m_json.Member("legend", dimension->legend);
+    m_json.EndObject();
 }
 
-Json ChartPainter::Dimension(const ChartDimension* dimension) const {
-    return Dimension(dimension, dimension != nullptr ? DimensionLabel(*dimension)
-                                                     : std::vector<std::string>());
+void ChartPainter::Dimension(const char* name, const std::optional<ChartDimension>& dimension) {
+    Dimension(name, Find(dimension),
+              dimension ? DimensionLabel(*dimension) : std::vector<std::string>());
 }
 
 /// Which of the chart's dimensions it is.
-Json ChartPainter::NameOf(const ChartDimension* dimension) const {
+void ChartPainter::NameOf(const char* name, const ChartDimension* dimension) {
+    m_json.Key(name);
     if (dimension == nullptr) {
-        return {};
+        m_json.Null();
+    } else if (dimension == Find(m_facts.chart.color)) {
+        m_json.String("color");
+    } else {
+        m_json.String(dimension == Find(m_facts.chart.style) ? "style" : "x");
     }
-    if (dimension == Find(m_facts.chart.color)) {
-        return "color";
-    }
-    return dimension == Find(m_facts.chart.style) ? "style" : "x";
 }
 
-Json ChartPainter::References() const {
-    Json list = Json::array();
+void ChartPainter::Panels() {
+    m_json.Key("panels");
+    m_json.BeginArray();
+    for (const ChartVariable& panel : m_facts.chart.panels) {
+        m_json.String(m_decode(VariableLabel(panel)));
+    }
+    m_json.EndArray();
+}
+
+void ChartPainter::Elements() {
+    m_json.Key("elements");
+    m_json.BeginArray();
+    for (const ChartElement* element : m_facts.drawn) {
+        m_json.BeginObject();
+        std::visit(ElementSketch(m_json), *element);
+        m_json.EndObject();
+    }
+    m_json.EndArray();
+}
+
+void ChartPainter::References() {
+    m_json.Key("references");
+    m_json.BeginArray();
     const ChartDimension* const x1 = Find(m_facts.chart.x1);
     for (const ReferenceLine& line : m_facts.chart.referenceLines) {
-        if (!IsCategorical(m_facts.y) && IsSameVariable(line.variable, m_facts.y->variable)) {
-            list.push_back({{"axis", "y"}, {"value", line.value}});
-        } else if (x1 != nullptr && !IsCategorical(x1) &&
-                   IsSameVariable(line.variable, x1->variable)) {
-            list.push_back({{"axis", "x"}, {"value", line.value}});
+        const bool isOnY =
+            !IsCategorical(m_facts.y) && IsSameVariable(line.variable, m_facts.y->variable);
+        const bool isOnX =
+            x1 != nullptr && !IsCategorical(x1) && IsSameVariable(line.variable, x1->variable);
+        if (isOnY || isOnX) {
+            m_json.BeginObject();
+            m_json.Member("axis", isOnY ? "y" : "x");
+            m_json.Key("value");
+            m_json.Number(line.value);
+            m_json.EndObject();
         }
     }
-    return list;
+    m_json.EndArray();
 }
 
 bool ChartPainter::IsNormalized() const {
     return m_facts.IsNormalized(ElementKind::kBar) || m_facts.IsNormalized(ElementKind::kArea);
 }
 
-Json ChartPainter::Chart() const {
+void ChartPainter::Chart() {
     constexpr std::array<const char*, 4> kForms{"plain", "clustered", "three", "pie"};
     const ChartModel& chart = m_facts.chart;
     const bool hasAxes = m_facts.form == ChartForm::kPlain || m_facts.form == ChartForm::kClustered;
-    Json elements = Json::array();
-    for (const ChartElement* element : m_facts.drawn) {
-        elements.push_back(std::visit(ElementSketch(), *element));
-    }
-    Json panels = Json::array();
-    for (const ChartVariable& panel : chart.panels) {
-        panels.push_back(m_decode(VariableLabel(panel)));
-    }
-    return {{"form", kForms.at(static_cast<std::size_t>(m_facts.form))},
-            {"horizontal", chart.coordinate == Coordinate::kHorizontal},
-            {"x", Dimension(Find(chart.x1))},
-            {"z", Dimension(Find(chart.x2))},
-            {"y", Dimension(m_facts.y, MeasureLabel(m_facts))},
-            {"color", Dimension(Find(chart.color))},
-            {"style", Dimension(Find(chart.style))},
-            {"size", Dimension(Find(chart.size))},
-            {"cluster", hasAxes ? NameOf(m_facts.cluster) : Json()},
-            {"slice", NameOf(m_facts.slice)},
-            {"panels", panels},
-            {"elements", elements},
-            {"stacked", m_facts.stacked},
-            {"normalized", IsNormalized()},
-            {"references", References()},
-            {"title", Lines(chart.title)},
-            {"subtitle", Lines(chart.subtitle)},
-            {"caption", Lines(chart.caption)}};
+    m_json.BeginObject();
+    m_json.Member("form", kForms.at(static_cast<std::size_t>(m_facts.form)));
+    m_json.Member("horizontal", chart.coordinate == Coordinate::kHorizontal);
+    Dimension("x", chart.x1);
+    Dimension("z", chart.x2);
+    Dimension("y", m_facts.y, MeasureLabel(m_facts));
+    Dimension("color", chart.color);
+    Dimension("style", chart.style);
+    Dimension("size", chart.size);
+    NameOf("cluster", hasAxes ? m_facts.cluster : nullptr);
+    NameOf("slice", m_facts.slice);
+    Panels();
+    Elements();
+    m_json.Member("stacked", m_facts.stacked);
+    m_json.Member("normalized", IsNormalized());
+    References();
+    Lines("title", chart.title);
+    Lines("subtitle", chart.subtitle);
+    Lines("caption", chart.caption);
+    m_json.EndObject();
 }
 
 } // namespace
 
 std::string SketchOfChart(const ChartModel& chart, const TextDecoder& decode) {
-    return ChartPainter(chart, decode).Chart().dump(-1, ' ', false, Json::error_handler_t::replace);
+    ChartPainter painter(chart, decode);
+    painter.Chart();
+    return painter.Json();
 }
 
 } // namespace recastor

@@ -1,80 +1,96 @@
+#include "archive/outcome/jsonwriter.h"
 #include "archive/picture/picturejson.h"
 #include "archive/picture/tableskeleton.h"
 
-#include <algorithm>
 #include <array>
-#include <nlohmann/json.hpp>
 
 namespace recastor {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
 using TermsView = std::vector<SkeletonTerm>;
 
-/// Makes JSON of skeletons.
+/// Writes skeletons as JSON.
 class TablePainter {
 public:
     explicit TablePainter(const TextDecoder& decode) : m_decode(decode) {}
 
-    Json Command(const CommandSkeleton& skeleton) const;
+    void Command(const CommandSkeleton& skeleton);
+    const std::string& Json() const { return m_json.Text(); }
 
 private:
-    Json Text(const std::optional<std::string>& text) const;
-    Json Lines(const std::vector<std::string>& lines) const;
-    Json Statistics(const std::vector<SkeletonStatistic>& statistics) const;
-    Json Header(const SkeletonVariable& variable) const;
-    Json Headers(TermsView::const_iterator begin, TermsView::const_iterator end,
-                 std::size_t depth) const;
-    Json Dimension(const TableSkeleton& table, std::size_t index) const;
-    Json Sorts(const std::vector<SkeletonSort>& sorts) const;
-    Json Table(const TableSkeleton& table) const;
+    void Text(const char* name, const std::string& text) { m_json.Member(name, m_decode(text)); }
+    void Text(const char* name, const std::optional<std::string>& text);
+    void Lines(const char* name, const std::vector<std::string>& lines);
+    void Side(const char* name, const std::optional<TableSide>& side);
+    void Statistics(const char* name, const std::vector<SkeletonStatistic>& statistics);
+    void Total(const std::optional<SkeletonTotal>& total);
+    void Headers(TermsView::const_iterator begin, TermsView::const_iterator end, std::size_t depth);
+    void Dimension(const char* name, const TableSkeleton& table, std::size_t index);
+    void Sorts(const std::vector<SkeletonSort>& sorts);
+    void Table(const TableSkeleton& table);
 
     const TextDecoder& m_decode;
+    JsonWriter m_json;
 };
 
-Json TablePainter::Text(const std::optional<std::string>& text) const {
-    return text ? Json(m_decode(*text)) : Json();
+void TablePainter::Text(const char* name, const std::optional<std::string>& text) {
+    if (text) {
+        Text(name, *text);
+    } else {
+        m_json.Key(name);
+        m_json.Null();
+    }
 }
 
-Json TablePainter::Lines(const std::vector<std::string>& lines) const {
-    Json list = Json::array();
+void TablePainter::Lines(const char* name, const std::vector<std::string>& lines) {
+    m_json.Key(name);
+    m_json.BeginArray();
     for (const std::string& line : lines) {
-        list.push_back(m_decode(line));
+        m_json.String(m_decode(line));
     }
-    return list;
+    m_json.EndArray();
 }
 
-Json TablePainter::Statistics(const std::vector<SkeletonStatistic>& statistics) const {
-    Json list = Json::array();
+void TablePainter::Side(const char* name, const std::optional<TableSide>& side) {
+    static const std::array<const char*, 3> kNames{"rows", "columns", "layers"};
+    m_json.Key(name);
+    if (side) {
+        m_json.String(kNames.at(static_cast<std::size_t>(*side)));
+    } else {
+        m_json.Null();
+    }
+}
+
+void TablePainter::Statistics(const char* name, const std::vector<SkeletonStatistic>& statistics) {
+    m_json.Key(name);
+    m_json.BeginArray();
     for (const SkeletonStatistic& one : statistics) {
-        list.push_back({{"function", m_decode(one.function)},
-                        {"label", Text(one.label)},
-                        {"format", Text(one.format)}});
+        m_json.BeginObject();
+        Text("function", one.function);
+        Text("label", one.label);
+        Text("format", one.format);
+        m_json.EndObject();
     }
-    return list;
+    m_json.EndArray();
 }
 
-Json TablePainter::Header(const SkeletonVariable& variable) const {
-    const char* const kind = variable.kind == 'S'   ? "scale"
-                             : variable.kind == 'G' ? "group"
-                                                    : "category";
-    Json total;
-    if (variable.total) {
-        total = {{"after", variable.total->isAfter}, {"label", m_decode(variable.total->label)}};
+void TablePainter::Total(const std::optional<SkeletonTotal>& total) {
+    m_json.Key("total");
+    if (!total) {
+        m_json.Null();
+        return;
     }
-    return {{"name", m_decode(variable.name)},
-            {"kind", kind},
-            {"label", Text(variable.label)},
-            {"total", total},
-            {"statistics", Statistics(variable.statistics)},
-            {"totalStatistics", Statistics(variable.totalStatistics)}};
+    m_json.BeginObject();
+    m_json.Member("after", total->isAfter);
+    Text("label", total->label);
+    m_json.EndObject();
 }
 
 /// The headers of terms from the variable at `depth` on, which every one of them has.
-Json TablePainter::Headers(TermsView::const_iterator begin, TermsView::const_iterator end,
-                           std::size_t depth) const {
-    Json headers = Json::array();
+void TablePainter::Headers(TermsView::const_iterator begin, TermsView::const_iterator end,
+                           std::size_t depth) {
+    m_json.BeginArray();
     while (begin != end) {
         const SkeletonVariable& variable = (*begin)[depth];
         const auto goesOn = [depth](const SkeletonTerm& term) { return term.size() > depth + 1; };
@@ -82,67 +98,83 @@ Json TablePainter::Headers(TermsView::const_iterator begin, TermsView::const_ite
         while (goesOn(*begin) && next != end && goesOn(*next) && (*next)[depth] == variable) {
             ++next;
         }
-        Json header = Header(variable);
-        header["inside"] = goesOn(*begin) ? Headers(begin, next, depth + 1) : Json::array();
-        headers.push_back(std::move(header));
+        m_json.BeginObject();
+        Text("name", variable.name);
+        m_json.Member("kind", variable.kind == 'S'   ? "scale"
+                              : variable.kind == 'G' ? "group"
+                                                     : "category");
+        Text("label", variable.label);
+        Total(variable.total);
+        Statistics("statistics", variable.statistics);
+        Statistics("totalStatistics", variable.totalStatistics);
+        m_json.Key("inside");
+        Headers(begin, goesOn(*begin) ? next : begin, depth + 1);
+        m_json.EndObject();
         begin = next;
     }
-    return headers;
+    m_json.EndArray();
 }
 
-Json TablePainter::Dimension(const TableSkeleton& table, std::size_t index) const {
-    if (index >= table.dimensions.size()) {
-        return Json::array();
+void TablePainter::Dimension(const char* name, const TableSkeleton& table, std::size_t index) {
+    static const SkeletonDimension kNone;
+    const SkeletonDimension& dimension =
+        index < table.dimensions.size() ? table.dimensions[index] : kNone;
+    m_json.Key(name);
+    if (dimension.isTooLarge) {
+        m_json.Null();
+    } else {
+        Headers(dimension.terms.begin(), dimension.terms.end(), 0);
     }
-    const SkeletonDimension& dimension = table.dimensions[index];
-    return dimension.isTooLarge ? Json()
-                                : Headers(dimension.terms.begin(), dimension.terms.end(), 0);
 }
 
-Json TablePainter::Sorts(const std::vector<SkeletonSort>& sorts) const {
-    Json list = Json::array();
+void TablePainter::Sorts(const std::vector<SkeletonSort>& sorts) {
+    m_json.Key("sorts");
+    m_json.BeginArray();
     for (const SkeletonSort& sort : sorts) {
-        list.push_back({{"variable", m_decode(sort.variable)},
-                        {"ascending", sort.isAscending},
-                        {"key", m_decode(sort.key)}});
+        m_json.BeginObject();
+        Text("variable", sort.variable);
+        m_json.Member("ascending", sort.isAscending);
+        Text("key", sort.key);
+        m_json.EndObject();
     }
-    return list;
+    m_json.EndArray();
 }
 
-Json SideName(const std::optional<TableSide>& side) {
-    static const std::array<const char*, 3> kNames{"rows", "columns", "layers"};
-    return side ? Json(kNames.at(static_cast<std::size_t>(*side))) : Json();
+void TablePainter::Table(const TableSkeleton& table) {
+    m_json.BeginObject();
+    Dimension("rows", table, 0);
+    Dimension("columns", table, 1);
+    Dimension("layers", table, 2);
+    Side("statisticsSide", table.statisticsSide);
+    m_json.Member("statisticsNamed", table.areStatisticsNamed);
+    Side("movedLabels", table.movedLabels);
+    m_json.Member("missingIncluded", table.isMissingIncluded);
+    Sorts(table.sorts);
+    Lines("title", table.title);
+    Lines("caption", table.caption);
+    Lines("corner", table.corner);
+    m_json.EndObject();
 }
 
-Json TablePainter::Table(const TableSkeleton& table) const {
-    return {{"rows", Dimension(table, 0)},
-            {"columns", Dimension(table, 1)},
-            {"layers", Dimension(table, 2)},
-            {"statisticsSide", SideName(table.statisticsSide)},
-            {"statisticsNamed", table.areStatisticsNamed},
-            {"movedLabels", SideName(table.movedLabels)},
-            {"missingIncluded", table.isMissingIncluded},
-            {"sorts", Sorts(table.sorts)},
-            {"title", Lines(table.title)},
-            {"caption", Lines(table.caption)},
-            {"corner", Lines(table.corner)}};
-}
-
-Json TablePainter::Command(const CommandSkeleton& skeleton) const {
-    Json tables = Json::array();
+void TablePainter::Command(const CommandSkeleton& skeleton) {
+    m_json.BeginObject();
+    m_json.Member("emptyCells", skeleton.areEmptyCellsZero ? "zero" : "blank");
+    Text("missingText", skeleton.missingText);
+    m_json.Key("tables");
+    m_json.BeginArray();
     for (const TableSkeleton& table : skeleton.tables) {
-        tables.push_back(Table(table));
+        Table(table);
     }
-    return {{"emptyCells", skeleton.areEmptyCellsZero ? "zero" : "blank"},
-            {"missingText", Text(skeleton.missingText)},
-            {"tables", tables}};
+    m_json.EndArray();
+    m_json.EndObject();
 }
 
 } // namespace
 
 std::string PictureOfTables(const CommandSkeleton& skeleton, const TextDecoder& decode) {
-    return TablePainter(decode).Command(skeleton).dump(-1, ' ', false,
-                                                       Json::error_handler_t::replace);
+    TablePainter painter(decode);
+    painter.Command(skeleton);
+    return painter.Json();
 }
 
 } // namespace recastor

@@ -1,41 +1,52 @@
 #include "archive/report/filepage.h"
 
+#include "archive/outcome/jsonwriter.h"
 #include "archive/outcome/outcomenames.h"
 #include "archive/outcome/shownpath.h"
 #include "archive/report/pageshell.h"
-
-#include <nlohmann/json.hpp>
 
 namespace recastor {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-/// A picture is JSON already; one that is not there, or is broken, is null.
-Json PictureOf(const std::string& picture) {
-    Json json = Json::parse(picture, nullptr, false);
-    return json.is_discarded() ? Json() : json;
+void WriteError(const std::optional<ConversionError>& error, JsonWriter& json) {
+    json.Key("error");
+    if (!error) {
+        json.Null();
+        return;
+    }
+    json.BeginObject();
+    json.Member("line", error->line);
+    json.Member("column", std::int64_t{error->column});
+    json.Member("text", error->text);
+    json.EndObject();
 }
 
-Json JsonOf(const CommandOutcome& command) {
-    Json error;
-    if (command.error) {
-        error = {{"line", command.error->line},
-                 {"column", command.error->column},
-                 {"text", command.error->text}};
+/// A picture is JSON already; one that is not there is null.
+void WritePicture(const char* name, const std::string& picture, JsonWriter& json) {
+    json.Key(name);
+    json.Json(picture.empty() ? "null" : picture);
+}
+
+void WriteCommand(const CommandOutcome& command, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("kind", NameOf(command.kind));
+    json.Member("firstLine", command.firstLine);
+    json.Member("lastLine", command.lastLine);
+    json.Member("oldText", command.oldText);
+    json.Member("newText", command.newText);
+    json.Member("warnings", command.warnings);
+    WriteError(command.error, json);
+    json.Key("missedLines");
+    json.BeginArray();
+    for (const std::int64_t line : command.missedLines) {
+        json.Integer(line);
     }
-    return {{"kind", NameOf(command.kind)},
-            {"firstLine", command.firstLine},
-            {"lastLine", command.lastLine},
-            {"oldText", command.oldText},
-            {"newText", command.newText},
-            {"warnings", command.warnings},
-            {"error", error},
-            {"missedLines", command.missedLines},
-            {"oldPicture", PictureOf(command.oldPicture)},
-            {"newPicture", PictureOf(command.newPicture)},
-            {"chartSketch", PictureOf(command.chartSketch)}};
+    json.EndArray();
+    WritePicture("oldPicture", command.oldPicture, json);
+    WritePicture("newPicture", command.newPicture, json);
+    WritePicture("chartSketch", command.chartSketch, json);
+    json.EndObject();
 }
 
 std::string Hexadecimal(std::uint64_t number) {
@@ -62,22 +73,25 @@ std::string FilePageName(std::string_view path) {
 }
 
 std::string FilePage(const FileOutcome& outcome) {
-    Json commands = Json::array();
-    for (const CommandOutcome& command : outcome.commands) {
-        commands.push_back(JsonOf(command));
-    }
     const std::string path = ShownPath(outcome.path);
-    const Json json = {{"path", path},
-                       {"status", NameOf(outcome.status)},
-                       {"message", outcome.message},
-                       {"notes", outcome.notes},
-                       {"sourceSize", outcome.sourceSize},
-                       {"encoding", outcome.encoding},
-                       {"copied", outcome.copied},
-                       {"commands", commands}};
+    JsonWriter json;
+    json.BeginObject();
+    json.Member("path", path);
+    json.Member("status", NameOf(outcome.status));
+    json.Member("message", outcome.message);
+    json.Member("notes", outcome.notes);
+    json.Member("sourceSize", outcome.sourceSize);
+    json.Member("encoding", outcome.encoding);
+    json.Member("copied", outcome.copied);
+    json.Key("commands");
+    json.BeginArray();
+    for (const CommandOutcome& command : outcome.commands) {
+        WriteCommand(command, json);
+    }
+    json.EndArray();
+    json.EndObject();
     return PageStart(path, "<link rel=\"stylesheet\" href=\"../assets/report.css\">\n") +
-           EscapedForScript(json.dump(-1, ' ', false, Json::error_handler_t::replace)) +
-           PageEnd("<script src=\"../assets/file.js\"></script>");
+           json.Text() + PageEnd("<script src=\"../assets/file.js\"></script>");
 }
 
 } // namespace recastor

@@ -35,19 +35,6 @@ std::string EscapedForHtml(std::string_view text) {
     return escaped;
 }
 
-std::string EscapedForScript(std::string_view json) {
-    std::string escaped;
-    escaped.reserve(json.size());
-    for (const char c : json) {
-        if (c == '<') {
-            escaped += "\\u003c"; // in JSON it stands in strings only
-        } else {
-            escaped += c;
-        }
-    }
-    return escaped;
-}
-
 std::string PageStart(std::string_view title, std::string_view head) {
     std::string page = "<!doctype html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
                        "<meta name=\"viewport\" content=\"width=device-width\">\n"

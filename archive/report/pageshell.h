@@ -9,9 +9,6 @@ namespace recastor {
 /// The text with the characters that mean something in HTML as references.
 std::string EscapedForHtml(std::string_view text);
 
-/// A JSON text as it may stand in a script element: without any `<`.
-std::string EscapedForScript(std::string_view json);
-
 /// A document up to the element that carries the page's data, which is left open. `head` is HTML.
 std::string PageStart(std::string_view title, std::string_view head);
 

@@ -1,55 +1,54 @@
 #include "archive/report/reportindex.h"
 
+#include "archive/outcome/jsonwriter.h"
 #include "archive/outcome/outcomenames.h"
 #include "archive/outcome/shownpath.h"
 #include "archive/report/filepage.h"
 #include "archive/report/pageshell.h"
 #include "archive/report/reportassets.h"
 
-#include <nlohmann/json.hpp>
-
 namespace recastor {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-std::string InScript(const Json& json) {
-    return EscapedForScript(json.dump(-1, ' ', false, Json::error_handler_t::replace));
-}
-
-Json RowOf(const FileOutcome& outcome) {
-    const OutcomeCounts counts = CountsOf(outcome);
-    return Json::array({ShownPath(outcome.path),
-                        HasFilePage(outcome) ? FilePageName(outcome.path) : std::string(),
-                        NameOf(outcome.status), counts.commandsConverted,
-                        counts.commandsNotConverted, counts.commandsCopied, counts.warnings,
-                        counts.missedLines, outcome.sourceSize, outcome.message});
-}
-
-Json JsonOf(const OutcomeCounts& totals) {
-    return {{"files", totals.files},
-            {"filesConverted", totals.filesConverted},
-            {"filesIncomplete", totals.filesIncomplete},
-            {"filesFailed", totals.filesFailed},
-            {"filesSkipped", totals.filesSkipped},
-            {"commandsConverted", totals.commandsConverted},
-            {"commandsNotConverted", totals.commandsNotConverted},
-            {"commandsCopied", totals.commandsCopied},
-            {"warnings", totals.warnings},
-            {"missedLines", totals.missedLines}};
+void WriteTotals(const OutcomeCounts& totals, JsonWriter& json) {
+    json.BeginObject();
+    json.Member("files", totals.files);
+    json.Member("filesConverted", totals.filesConverted);
+    json.Member("filesIncomplete", totals.filesIncomplete);
+    json.Member("filesFailed", totals.filesFailed);
+    json.Member("filesSkipped", totals.filesSkipped);
+    json.Member("commandsConverted", totals.commandsConverted);
+    json.Member("commandsNotConverted", totals.commandsNotConverted);
+    json.Member("commandsCopied", totals.commandsCopied);
+    json.Member("warnings", totals.warnings);
+    json.Member("missedLines", totals.missedLines);
+    json.EndObject();
 }
 
 } // namespace
+
+std::string IndexRow(const FileOutcome& outcome) {
+    const OutcomeCounts counts = CountsOf(outcome);
+    JsonWriter json;
+    json.BeginArray();
+    json.String(ShownPath(outcome.path));
+    json.String(HasFilePage(outcome) ? FilePageName(outcome.path) : std::string());
+    json.String(NameOf(outcome.status));
+    for (const std::uint64_t number :
+         {counts.commandsConverted, counts.commandsNotConverted, counts.commandsCopied,
+          counts.warnings, counts.missedLines, outcome.sourceSize}) {
+        json.Integer(static_cast<std::int64_t>(number));
+    }
+    json.String(outcome.message);
+    json.EndArray();
+    return json.Text();
+}
 
 ReportIndex::ReportIndex(std::ostream& output) : m_output(output) {
     m_output << PageStart("Converted files",
                           "<style>" + std::string(ReportAsset("report.css")) + "</style>\n")
              << "{\"files\":[";
-}
-
-std::string IndexRow(const FileOutcome& outcome) {
-    return InScript(RowOf(outcome));
 }
 
 void ReportIndex::AddRow(const std::string& row) {
@@ -58,12 +57,16 @@ void ReportIndex::AddRow(const std::string& row) {
 }
 
 void ReportIndex::End(const ReportHeading& heading, const OutcomeCounts& totals) {
-    Json json = Json::object();
+    JsonWriter json;
+    json.BeginObject();
     for (const auto& [name, value] : heading) {
-        json[name] = value;
+        json.Member(name, value);
     }
-    m_output << "\n],\"heading\":" << InScript(json) << ",\"totals\":" << InScript(JsonOf(totals))
-             << '}' << PageEnd("<script>" + std::string(ReportAsset("index.js")) + "</script>");
+    json.EndObject();
+    JsonWriter sums;
+    WriteTotals(totals, sums);
+    m_output << "\n],\"heading\":" << json.Text() << ",\"totals\":" << sums.Text() << '}'
+             << PageEnd("<script>" + std::string(ReportAsset("index.js")) + "</script>");
 }
 
 } // namespace recastor

@@ -122,7 +122,7 @@ TEST(SketchOfChart, ReferenceLinesStandOnTheScalesThatTheyName) {
     chart.referenceLines = {
         {Named("Y"), 5, false}, {Named("x"), 0.5, false}, {Named("q"), 1, false}};
     EXPECT_EQ(Sketched(chart, "references"),
-              R"([{"axis":"y","value":5.0},{"axis":"x","value":0.5}])");
+              R"([{"axis":"y","value":5},{"axis":"x","value":0.5}])");
 }
 
 TEST(SketchOfChart, TextsAreDecodedAndAlwaysValid) {

@@ -72,12 +72,6 @@ TEST(FilePage, CarriesTheOutcome) {
             "oldPicture": {"tables": []}, "newPicture": null, "chartSketch": null}]})"));
 }
 
-TEST(FilePage, PictureThatIsNoJsonIsLeftOut) {
-    FileOutcome outcome = OutcomeOf("a");
-    outcome.commands.emplace_back().oldPicture = "{";
-    EXPECT_TRUE(DataOf(FilePage(outcome)).at("commands").at(0).at("oldPicture").is_null());
-}
-
 TEST(FilePage, MarkupInPathsAndTextsIsText) {
     FileOutcome outcome = OutcomeOf("<script>alert(1)</script>&\"");
     outcome.message = "</script><!--<b>";
