@@ -2,19 +2,14 @@
 // which the first begins its conversions with a TABLES command, and
 // makes up files of which there are too many, and whose names are hostile.
 
-#include "archive/picture/picturejson.h"
-#include "archive/picture/skeletonofctables.h"
-#include "archive/picture/skeletonoftree.h"
 #include "archive/report/filepage.h"
 #include "archive/report/reportassets.h"
 #include "archive/report/reportindex.h"
+#include "archive/tree/outcomerecorder.h"
 #include "ctables/recastor/commandstream.h"
-#include "ctables/recastor/printcommand.h"
 #include "ctables/recastor/recastor.h"
-#include "platform/zelkwigr/igraphspec.h"
 #include "tests/support/run.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -26,72 +21,21 @@ namespace recastor {
 
 namespace {
 
-std::string AsItIs(std::string_view text) {
-    return std::string(text);
-}
-
-/// The command as it is written in a file, with its period.
-std::string AsWritten(std::string_view text) {
-    std::ostringstream written;
-    PrintCommand(std::string(text), written, 0);
-    const std::string command = written.str();
-    return command.substr(0, command.find_last_not_of('\n') + 1);
-}
-
-/// Writes down what is told of a file's commands, with their pictures.
-class Recorder : public ConversionListener {
-public:
-    explicit Recorder(FileOutcome& outcome) : m_outcome(outcome) {}
-
-    void OnCommand(ReportedKind kind, std::int64_t firstLine, std::string_view text) override {
-        if (kind != ReportedKind::kTables && kind != ReportedKind::kIgraph) {
-            ++m_outcome.copied;
-            return;
-        }
-        CommandOutcome& command = m_outcome.commands.emplace_back();
-        command.kind = kind;
-        command.firstLine = firstLine;
-        command.lastLine = firstLine + std::count(text.begin(), text.end(), '\n') - 1;
-        command.oldText = AsWritten(text);
-    }
-    void OnTree(const TbTrParseNode& root) override {
-        Command().oldPicture = PictureOfTables(SkeletonOfTree(root), AsItIs);
-    }
-    void OnChart(const iGraphSpec& spec) override {
-        Command().chartSketch = SketchOfChart(spec.Chart(), AsItIs);
-    }
-    void OnConverted(std::string_view text, const std::vector<std::string>& warnings) override {
-        Command().newText = AsWritten(text);
-        Command().warnings = warnings;
-        if (Command().kind == ReportedKind::kTables) {
-            Command().newPicture =
-                PictureOfTables(SkeletonOfCtables(Command().newText + '\n'), AsItIs);
-        }
-    }
-    void OnNotConverted(const ConversionError& error) override {
-        Command().error = error;
-        m_outcome.status = FileStatus::kIncomplete;
-    }
-
-private:
-    CommandOutcome& Command() { return m_outcome.commands.back(); }
-
-    FileOutcome& m_outcome;
-};
-
 FileOutcome Converted(const fs::path& input) {
     const std::string text = ReadFile(input);
     FileOutcome outcome;
     outcome.path = input.parent_path().filename() / input.filename();
-    outcome.status = FileStatus::kConverted;
     outcome.sourceSize = text.size();
     outcome.encoding = "UTF-8";
     std::istringstream file(text);
     std::ostringstream output;
     CommandStream commands(file, false);
-    Recorder recorder(outcome);
+    const TextShower shower("UTF-8");
+    OutcomeRecorder recorder(outcome, shower, Pictures::kDrawn);
     const CapturedStreams streams;
     ConvertCommands(commands, false, output, recorder);
+    outcome.status = CountsOf(outcome).commandsNotConverted > 0 ? FileStatus::kIncomplete
+                                                                : FileStatus::kConverted;
     return outcome;
 }
 

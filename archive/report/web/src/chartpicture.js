@@ -47,7 +47,9 @@ function drawWhenSeen(sketch, place) {
 }
 
 export function chartPicture(sketch) {
-  const place = element('div', { class: 'scroll', role: 'group', 'aria-label': 'Chart', tabindex: 0 });
+  const place = element('div', {
+    class: 'scroll', role: 'group', 'aria-label': 'Chart', tabindex: 0,
+  });
   drawWhenSeen(sketch, place);
   const inDepth = sketch.form === 'three'
     ? ' Three dimensions are shown from above, the third as a colour.' : '';

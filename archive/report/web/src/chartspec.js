@@ -55,9 +55,14 @@ function placed(sketch, x, y, offset) {
   return sketch.horizontal ? { x: y, y: x, ...cluster } : { x, y, ...cluster };
 }
 
-function summarised(sketch, aggregate, stack) {
-  return axis(sketch.y, 'y', { aggregate, stack, type: 'quantitative', axis: NO_NUMBERS });
+/** What summarises: of a stack's parts the sums add up, and a line beside it is as high. */
+function summarised(sketch, stack) {
+  const aggregate = sketch.stacked ? 'sum' : 'mean';
+  return axis(sketch.y, 'summary', { aggregate, stack, type: 'quantitative', axis: NO_NUMBERS });
 }
+
+/** Lines and areas go along the axis of X. */
+const orient = ({ horizontal }) => (horizontal ? 'horizontal' : 'vertical');
 
 function stackOf(sketch, isStack) {
   return sketch.normalized ? 'normalize' : isStack ? 'zero' : null;
@@ -77,36 +82,36 @@ const ELEMENTS = {
     mark: 'bar',
     encoding: {
       ...placed(sketch, axis(sketch.x, 'x'),
-        summarised(sketch, sketch.stacked ? 'sum' : 'mean', stackOf(sketch, sketch.stacked)), true),
+        summarised(sketch, stackOf(sketch, sketch.stacked)), true),
       ...aesthetics(sketch, true, false),
     },
   }],
   area: (sketch, { curve }) => [{
-    mark: { type: 'area', interpolate: CURVES[curve], opacity: 0.7 },
+    mark: { type: 'area', interpolate: CURVES[curve], opacity: 0.7, orient: orient(sketch) },
     encoding: {
       ...placed(sketch, axis(sketch.x, 'x'),
-        summarised(sketch, 'mean', stackOf(sketch, isGrouped(sketch)))),
+        summarised(sketch, stackOf(sketch, isGrouped(sketch)))),
       ...aesthetics(sketch, true, false),
     },
   }],
   line: (sketch, { curve, points }) => [{
-    mark: { type: 'line', interpolate: CURVES[curve], point: points },
+    mark: { type: 'line', interpolate: CURVES[curve], point: points, orient: orient(sketch) },
     encoding: {
-      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, 'mean', null)),
+      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, null)),
       ...aesthetics(sketch, false, false),
     },
   }],
   dots: (sketch) => [{
     mark: { type: 'point', filled: true },
     encoding: {
-      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, 'mean', null)),
+      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, null)),
       ...aesthetics(sketch, false, true),
     },
   }],
   pie: (sketch) => [{
     mark: { type: 'arc', stroke: 'white' },
     encoding: {
-      theta: { field: 'y', aggregate: 'sum' },
+      theta: { field: 'summary', aggregate: 'sum' },
       color: {
         field: sketch.slice ?? 'color', type: 'nominal', ...legend(sketch[sketch.slice ?? 'color']),
       },
@@ -126,7 +131,7 @@ const ELEMENTS = {
     };
     const mean = {
       ...encoding,
-      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, 'mean', null), true),
+      ...placed(sketch, axis(sketch.x, 'x'), summarised(sketch, null), true),
     };
     const bars = { mark: { type: 'errorbar', extent: 'stdev', ticks: true }, encoding };
     return points ? [bars, { mark: { type: 'point', filled: true }, encoding: mean }] : [bars];
@@ -144,7 +149,7 @@ const ELEMENTS = {
     };
     const curve = {
       data: { values: madeUpCurve() },
-      mark: { type: 'line', color: '#888' },
+      mark: { type: 'line', color: '#888', orient: orient(sketch) },
       encoding: placed(sketch, axis(sketch.x, 'x'), axis(sketch.y, 'y')),
     };
     return density ? [bars, curve] : [bars];
@@ -160,7 +165,7 @@ const ELEMENTS = {
     const { color } = sketch;
     return [{
       transform: [fit[method]],
-      mark: { type: 'line', strokeWidth: 2.5 },
+      mark: { type: 'line', strokeWidth: 2.5, orient: orient(sketch) },
       encoding: {
         ...placed(sketch, axis(sketch.x, 'x'), axis(sketch.y, 'y')),
         ...groupby[0] === 'color' && color ? { color: channel(sketch, 'color') } : {},
@@ -173,7 +178,7 @@ const ELEMENTS = {
 /** Three dimensions, looked at from above: the third is a colour. */
 function fromAbove(sketch) {
   const isBar = sketch.elements.some(({ type }) => type === 'bar');
-  const height = { field: 'y', type: 'quantitative', title: sketch.y.label };
+  const height = { field: 'summary', type: 'quantitative', title: sketch.y.label };
   return [{
     mark: isBar ? 'rect' : { type: 'point', filled: true, size: 60 },
     encoding: {

@@ -22,21 +22,26 @@ function categoryFields(sketch) {
   return [...dimensions, ...sketch.panels.slice(0, 2).map((_, i) => `panel${i + 1}`)];
 }
 
-/** Cases with a value for every dimension; `x`, `y`, `z` and `size` lie between 0 and 100. */
+/**
+ * Cases with a value for every dimension; `x`, `y`, `z` and `size` lie between 0 and 100 where they
+ * have no categories, and `summary`, which is what is summarised of Y, always does.
+ */
 export function madeUpCases(sketch) {
   const random = generator(7);
   let cells = [{}];
   for (const field of categoryFields(sketch)) {
-    cells = cells.flatMap((cell) => CATEGORIES[field].map((value) => ({ ...cell, [field]: value })));
+    cells = cells.flatMap((cell) =>
+      CATEGORIES[field].map((value) => ({ ...cell, [field]: value })));
   }
   const count = Math.max(CASES, Math.ceil(60 / cells.length));
   return cells.flatMap((cell, i) => Array.from({ length: count }, () => {
     const x = 10 + 80 * random();
     const level = 25 + ((i * 37) % 40);
     const normal = (random() + random() + random()) / 3;
+    const summary = sketch.x?.category === false ? 0.6 * x + 40 * normal : level + 30 * normal;
     return {
-      x, z: 10 + 80 * random(), size: 100 * random(), color: x, style: '1',
-      y: sketch.x?.category === false ? 0.6 * x + 40 * normal : level + 30 * normal, ...cell,
+      x, z: 10 + 80 * random(), size: 100 * random(), color: x, style: '1', y: summary, summary,
+      ...cell,
     };
   }));
 }
