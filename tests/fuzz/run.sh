@@ -16,7 +16,8 @@ shift
 
 scripts/install-packages build fuzz
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -- --quiet
+# shellcheck disable=SC2046 # words on purpose
+cmake --build --preset fuzz --target $(printf 'fuzz_%s ' "$@") -- --quiet
 
 corpus=build/fuzz/corpus
 mkdir -p build/fuzz/findings "$corpus/seeds"
