@@ -1,9 +1,9 @@
 #include "archive/tree/findlocale.h"
 
 #include <cctype>
+#include <clocale>
 #include <cstdio>
 #include <langinfo.h>
-#include <locale.h>
 #include <memory>
 
 namespace recastor {
@@ -27,7 +27,7 @@ std::string EncodingOf(const std::string& name) {
     if (locale == nullptr) {
         return "";
     }
-    const std::string encoding = ::nl_langinfo_l(CODESET, locale);
+    std::string encoding = ::nl_langinfo_l(CODESET, locale);
     ::freelocale(locale);
     return encoding;
 }
@@ -51,6 +51,7 @@ std::string FindLocale(const std::string& encoding) {
     if (!encoding.empty() && !EncodingOf(encoding).empty()) {
         return encoding;
     }
+    // NOLINTNEXTLINE(cert-env33-c): the command is a constant
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> list(::popen("locale -a", "r"),
                                                                &::pclose);
     std::string name;

@@ -36,7 +36,7 @@ void Recover(const std::string& fileName) {
     if (std::rename(joined.c_str(), fileName.c_str()) != 0) {
         throw SystemError("cannot write " + fileName);
     }
-    std::remove(unfinished.c_str());
+    static_cast<void>(std::remove(unfinished.c_str())); // what stays is joined again
 }
 
 std::string Recovered(const std::string& fileName) {
@@ -103,7 +103,7 @@ std::string RunManifest::PreviousLine(const std::string& path) {
     if (!m_hasPrevious || m_previous.Path() != path) {
         return "";
     }
-    const std::string line = m_previous.Line();
+    std::string line = m_previous.Line();
     m_hasPrevious = m_previous.Next();
     return line;
 }

@@ -43,6 +43,14 @@ std::string TimeLeft(const ProgressState& state) {
     return text.data();
 }
 
+/// What a line of 80 columns has room for beside a bar.
+std::string ShortLine(const ProgressState& state) {
+    return std::to_string(state.done) + '/' + std::to_string(state.total) + " files, " +
+           std::to_string(state.counts.commandsConverted) + " converted, " +
+           std::to_string(Failures(state.counts)) + " failures, " + Number(FilesPerSecond(state)) +
+           "/s" + TimeLeft(state);
+}
+
 std::size_t TerminalWidth() {
     struct winsize size {};
     const bool known = ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
@@ -64,7 +72,7 @@ std::string ProgressLine(const ProgressState& state) {
 std::string ProgressBar(const ProgressState& state, std::size_t width) {
     constexpr std::size_t kFrame = 3; // brackets and a blank
     constexpr std::size_t kLeast = 10;
-    const std::string words = ProgressLine(state);
+    const std::string words = ShortLine(state);
     // The last column stays free: some terminals go to the next line when it is written to.
     if (state.total == 0 || words.size() + kFrame + kLeast + 1 > width) {
         return words.substr(0, width > 0 ? width - 1 : 0);

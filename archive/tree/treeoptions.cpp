@@ -34,16 +34,19 @@ void Mistake(const std::string& text) {
 }
 
 void AddPositionals(CLI::App& app, Arguments& arguments) {
-    app.add_option("SOURCE_DIR", arguments.source, "The folder to read")->required();
-    app.add_option("TARGET_DIR", arguments.target, "The folder to write; made when it is missing");
-    app.add_option("REPORT_DIR", arguments.more, "With --merge: more folders to join");
+    app.add_option("SOURCE_DIR", arguments.source, "The folder to read")->required()->type_name("");
+    app.add_option("TARGET_DIR", arguments.target, "The folder to write; made when it is missing")
+        ->type_name("");
+    app.add_option("REPORT_DIR", arguments.more, "With --merge: more folders to join")
+        ->type_name("");
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments) {
     TreeOptions& options = arguments.options;
     app.add_flag("-b,--batch", options.batch, "Read batch-mode syntax");
     app.add_option("-j,--jobs", options.jobs, "Number of files at a time (default: all cores)")
-        ->check(CLI::Range(1U, kMostJobs));
+        ->type_name("N")
+        ->check(CLI::Range(1U, kMostJobs).description(""));
     app.add_option("--include", options.include,
                    "Convert files that match GLOB; may be repeated (default: *.syn, in any case)")
         ->type_name("GLOB")
@@ -64,7 +67,7 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
                  "The same, and the exit status tells whether any target would change");
     app.add_option("--fail-on", arguments.failOn, "What makes the exit status 1 (default: error)")
         ->type_name("warning|error")
-        ->check(CLI::IsMember({"warning", "error"}));
+        ->check(CLI::IsMember({"warning", "error"}).description(""));
     app.add_option("--time-limit", options.timeLimit, "Seconds for one file; 0: no limit")
         ->type_name("SECONDS");
     app.add_flag("-q,--quiet", options.quiet, "Tell neither progress nor summary");

@@ -40,17 +40,28 @@ TEST(ProgressLine, TellsNothingThatIsNotKnown) {
     EXPECT_EQ(ProgressLine(state), "3 of 2 files, 0 commands converted, 0 failures, 3 files/s");
 }
 
+const std::string kShortHalf = "50/100 files, 7 converted, 3 failures, 25/s, 0:02 left";
+
 TEST(ProgressBar, FillsTheWidthButForTheLastColumn) {
-    const std::string bar = ProgressBar(Half(), 3 + kHalf.size() + 20 + 1);
-    EXPECT_EQ(bar, "[##########          ] " + kHalf);
+    const std::string bar = ProgressBar(Half(), 3 + kShortHalf.size() + 20 + 1);
+    EXPECT_EQ(bar, "[##########          ] " + kShortHalf);
     ProgressState over = Half();
     over.done = 200;
     EXPECT_EQ(ProgressBar(over, 120).find(' '), ProgressBar(over, 120).find(']') + 1)
         << "never longer than full";
 }
 
+TEST(ProgressBar, HasRoomOnATerminalOf80Columns) {
+    ProgressState state = Half();
+    state.done = 5000;
+    state.total = 10000;
+    state.counts.commandsConverted = 100000;
+    EXPECT_EQ(ProgressBar(state, 80),
+              "[#####      ] 5000/10000 files, 100000 converted, 3 failures, 2500/s, 0:02 left");
+}
+
 TEST(ProgressBar, GivesWayToTheWordsOnANarrowTerminal) {
-    EXPECT_EQ(ProgressBar(Half(), 40), kHalf.substr(0, 39));
+    EXPECT_EQ(ProgressBar(Half(), 40), kShortHalf.substr(0, 39));
     EXPECT_EQ(ProgressBar(Half(), 0), "");
 }
 
