@@ -3,7 +3,7 @@ import { diffArrays } from 'diff';
 
 const PIECE = new RegExp([
   /(?<blank>[ \t\r\n]+)/,
-  /(?<comment>\/\*[^\n]*)/,
+  /(?<comment>\/\*(?:(?!\*\/)[^\n])*(?:\*\/)?)/,
   /(?<text>'(?:[^'\n]|'')*'?|"(?:[^"\n]|"")*"?)/,
   /(?<subcommand>\/[ \t]*[A-Za-z]\w*)/,
   /(?<number>\d+(?:\.\d+)?(?![\w.]))/,
