@@ -1,8 +1,9 @@
 #include "ctables/recastor/outputsequence.h"
 
+#include "ctables/recastor/linelayout.h"
 #include "platform/zelkbase/zelkassert.h"
 
-#include <iterator>
+#include <utility>
 
 namespace recastor {
 
@@ -13,54 +14,59 @@ OutputSequence::OutputSequence() {
 }
 
 void OutputSequence::Clear() {
-    m_Sequence.clear();
+    m_text.clear();
+    m_pieces.clear();
     m_lastNewline = -1;
 }
 
-void OutputSequence::PushBack(std::string text, bool leadingBlank) {
+void OutputSequence::PushBack(std::string_view text, bool leadingBlank) {
     if (leadingBlank) {
-        text.insert(text.begin(), ' ');
+        m_text += ' ';
     }
-    m_Sequence.emplace_back(std::move(text), false);
+    m_text += text;
+    m_pieces.push_back({m_text.size(), false});
 }
 
 void OutputSequence::PushBackNewline() {
-    m_lastNewline = static_cast<std::int64_t>(m_Sequence.size());
-    m_Sequence.emplace_back(NL_STRING, true);
+    m_lastNewline = static_cast<std::int64_t>(m_pieces.size());
+    m_text += NL_STRING;
+    m_pieces.push_back({m_text.size(), true});
 }
 
 void OutputSequence::PushBack(const OutputSequence& other) {
-    m_lastNewline = static_cast<std::int64_t>(m_Sequence.size()) + other.m_lastNewline;
-    m_Sequence.insert(m_Sequence.end(), other.m_Sequence.begin(), other.m_Sequence.end());
+    m_lastNewline = static_cast<std::int64_t>(m_pieces.size()) + other.m_lastNewline;
+    const std::size_t offset = m_text.size();
+    m_text += other.m_text;
+    for (const Piece& piece : other.m_pieces) {
+        m_pieces.push_back({offset + piece.end, piece.isNewline});
+    }
 }
 
 void OutputSequence::PushBack(OutputSequence&& other) {
-    m_lastNewline = static_cast<std::int64_t>(m_Sequence.size()) + other.m_lastNewline;
-    m_Sequence.insert(m_Sequence.end(), std::make_move_iterator(other.m_Sequence.begin()),
-                      std::make_move_iterator(other.m_Sequence.end()));
+    if (IsEmpty()) {
+        std::swap(*this, other);
+    } else {
+        PushBack(std::as_const(other));
+    }
     other.Clear();
 }
 
+void OutputSequence::ExtendLastPiece(std::string_view text) {
+    ZELK_ASSERT(!m_pieces.empty());
+    m_text += text;
+    m_pieces.back().end = m_text.size();
+}
+
 std::size_t OutputSequence::Length() const {
-    std::size_t length = 0;
-    for (std::size_t i = CurrentLine(); i < m_Sequence.size(); ++i) {
-        ZELK_ASSERT(m_Sequence[i].second == false);
-        length += m_Sequence[i].first.size();
-    }
-    return length;
+    return m_text.size() - StartOf(CurrentLine());
 }
 
 void OutputSequence::Fuse() {
     const std::size_t first = CurrentLine();
-    if (first >= m_Sequence.size()) {
-        return;
+    if (first < m_pieces.size()) {
+        m_pieces.resize(first + 1);
+        m_pieces.back().end = m_text.size();
     }
-    std::string& fused = m_Sequence[first].first;
-    for (std::size_t i = first + 1; i < m_Sequence.size(); ++i) {
-        ZELK_ASSERT(m_Sequence[i].second == false);
-        fused += m_Sequence[i].first;
-    }
-    m_Sequence.resize(first + 1);
 }
 
 std::string OutputSequence::Print(unsigned width, unsigned indent) const {
@@ -70,53 +76,19 @@ std::string OutputSequence::Print(unsigned width, unsigned indent) const {
     if (indent > width - 1) {
         ZELK_ASSERT_AS(false, "0 && \"WARNING: Indentation has been forced to size 1.\"");
     }
-    const std::string indentation(indent, ' ');
-    OutputSequence result;
-    unsigned long column = 0;
-    bool isFirst = true;
-    for (const Piece& piece : m_Sequence) {
-        result.PlacePiece(piece, isFirst, width, indentation, column);
-        isFirst = false;
-    }
-    std::string text;
-    for (const Piece& piece : result.m_Sequence) {
-        text += piece.first;
-    }
-    return text;
-}
-
-/// Appends a piece of another sequence in its place: on the line at hand or on a new one.
-void OutputSequence::PlacePiece(const Piece& piece, bool isFirst, unsigned width,
-                                const std::string& indentation, unsigned long& column) {
-    const auto& [text, isNewline] = piece;
-    if (isNewline) {
-        PushBackNewline();
-        column = 0;
-    } else if (column == 0) {
-        AddWithIndentation(this, &column, isFirst ? std::string() : indentation, text);
-    } else if (column + text.size() <= width) {
-        PushBack(text, false);
-        column += text.size();
-    } else if (text != ",") {
-        PushBack(NL_STRING, false);
-        column = 0;
-        AddWithIndentation(this, &column, indentation, text);
-    } else {
-        if (!IsEmpty() && TrimString(m_Sequence.back().first) != ",") {
-            CarryLastPieceToNewLine(indentation, column);
+    LineLayout layout(width, indent);
+    layout.Reserve(m_text.size());
+    const std::string_view text(m_text);
+    std::size_t start = 0;
+    for (const Piece& piece : m_pieces) {
+        if (piece.isNewline) {
+            layout.BreakLine();
+        } else {
+            layout.Place(text.substr(start, piece.end - start));
         }
-        PushBack(text, false);
-        column += text.size();
+        start = piece.end;
     }
-}
-
-void OutputSequence::CarryLastPieceToNewLine(const std::string& indentation,
-                                             unsigned long& column) {
-    const std::string carried = TrimStringLeft(m_Sequence.back().first);
-    m_Sequence.back().first = NL_STRING;
-    PushBack(indentation, false);
-    PushBack(carried, false);
-    column = indentation.size() + carried.size();
+    return layout.TakeText();
 }
 
 void OutputSequence::AddWithIndentation(OutputSequence* target, unsigned long* column,
@@ -128,8 +100,7 @@ void OutputSequence::AddWithIndentation(OutputSequence* target, unsigned long* c
 }
 
 std::string OutputSequence::TrimStringLeft(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string() : text.substr(first);
+    return std::string(WithoutLeadingBlanks(text));
 }
 
 std::string OutputSequence::TrimStringRight(const std::string& text) {

@@ -1,9 +1,11 @@
 /// The text builder in which a converted command is put together.
 #pragma once
 
+#include "platform/zelkbase/smallobjects.h"
+
 #include <cstdint>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace recastor {
@@ -18,14 +20,21 @@ public:
     OutputSequence();
 
     void Clear();
-    bool IsEmpty() const { return m_Sequence.empty(); }
+    bool IsEmpty() const { return m_pieces.empty(); }
+    /// The number of pieces.
+    std::size_t Size() const { return m_pieces.size(); }
     /// Appends a piece, with one blank in front when `leadingBlank`.
-    void PushBack(std::string text, bool leadingBlank);
+    void PushBack(std::string_view text, bool leadingBlank);
     void PushBackNewline();
     /// Appends the pieces of `other`. The current line then begins behind the last line break of
     /// `other` or, when it has none, with its first piece.
     void PushBack(const OutputSequence& other);
     void PushBack(OutputSequence&& other);
+    /// Lets the current line begin with the next piece. What is pushed from here on stands as if
+    /// it had been put together in a sequence of its own and appended.
+    void BeginPart() { m_lastNewline = static_cast<std::int64_t>(m_pieces.size()) - 1; }
+    /// Adds text to the last piece, which there must be.
+    void ExtendLastPiece(std::string_view text);
     /// The length of the current line: of the pieces behind the last line break.
     std::size_t Length() const;
     /// Makes one piece of the current line; does nothing when that is empty.
@@ -47,14 +56,19 @@ public:
     static std::string TrimString(const std::string& text);
 
 private:
-    using Piece = std::pair<std::string, bool>; ///< text; whether it is a line break
+    /// A piece is the text from the end of the piece before it up to its own.
+    struct Piece {
+        std::size_t end;
+        bool isNewline;
+    };
 
-    void PlacePiece(const Piece& piece, bool isFirst, unsigned width,
-                    const std::string& indentation, unsigned long& column);
-    void CarryLastPieceToNewLine(const std::string& indentation, unsigned long& column);
     std::size_t CurrentLine() const { return static_cast<std::size_t>(m_lastNewline + 1); }
+    std::size_t StartOf(std::size_t piece) const {
+        return piece == 0 ? 0 : m_pieces[piece - 1].end;
+    }
 
-    std::vector<Piece> m_Sequence;
+    std::string m_text; ///< of all pieces, one behind the other
+    std::vector<Piece, SmallObjectAllocator<Piece>> m_pieces;
     std::int64_t m_lastNewline; ///< index of the last line break; -1 when there is none
 };
 

@@ -5,8 +5,6 @@
 #include "ctables/recastor/parsetree_lookup.h"
 #include "platform/zelkbase/zelkassert.h"
 
-#include <utility>
-
 namespace recastor {
 
 namespace {
@@ -81,23 +79,22 @@ bool ParseTree::ExpressSubExpression(const TbTrParseNode& expression, const TbTr
                                      const TbTrParseNode* magnet, int depth, int dimension,
                                      const TbTrParseNode& expandedDimensions,
                                      OutputSequence& output) {
-    OutputSequence sequence;
+    output.BeginPart();
     if (expression.GetNodeType() == SP_VARNAME) {
         if (!ExpressVariableInTable(expression, table, &expression == magnet, dimension,
-                                    expandedDimensions, sequence)) {
+                                    expandedDimensions, output)) {
             return false;
         }
     } else {
         const auto expressOperand = [&](const TbTrParseNode& operand) {
             return ExpressSubExpression(operand, table, magnet, depth + 1, dimension,
-                                        expandedDimensions, sequence);
+                                        expandedDimensions, output);
         };
-        if (!ExpressOperation(expression, depth > 0, expressOperand, sequence)) {
+        if (!ExpressOperation(expression, depth > 0, expressOperand, output)) {
             return false;
         }
     }
-    FuseShortLine(sequence);
-    output.PushBack(std::move(sequence));
+    FuseShortLine(output);
     return true;
 }
 
@@ -107,13 +104,16 @@ bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTr
                                        OutputSequence& output) {
     ZELK_ASSERT(variable.GetNodeType() == SP_VARNAME);
     const int type = DeclaredType(variable, table);
-    std::string text = WrittenName(TokenOf(variable), type);
-    if (type == TB_OBSERVATION) {
-        text += "[S]";
-    } else if (type == 0) {
-        text += "[C]";
+    if (IsGroupType(type)) {
+        output.PushBack(WrittenName(TokenOf(variable), type), false);
+    } else {
+        output.PushBack(TokenOf(variable).AsString(true), false);
     }
-    output.PushBack(std::move(text), false);
+    if (type == TB_OBSERVATION) {
+        output.ExtendLastPiece("[S]");
+    } else if (type == 0) {
+        output.ExtendLastPiece("[C]");
+    }
     if (!withStatistics) {
         return true;
     }
@@ -123,12 +123,11 @@ bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTr
         return false;
     }
     if (!statistics.IsEmpty()) {
-        OutputSequence bracketed;
-        bracketed.PushBack("[", false);
-        bracketed.PushBack(std::move(statistics));
-        bracketed.PushBack("]", false);
-        FuseShortLine(bracketed);
-        output.PushBack(std::move(bracketed));
+        output.BeginPart();
+        output.PushBack("[", false);
+        output.PushBack(statistics);
+        output.PushBack("]", false);
+        FuseShortLine(output);
     }
     return true;
 }

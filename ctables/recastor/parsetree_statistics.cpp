@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -21,7 +22,7 @@ constexpr std::size_t kLineLength = 79;
 
 struct BaseWord {
     PercentageBase base;
-    const char* word;
+    std::string_view word;
 };
 
 constexpr std::array<BaseWord, 4> gBaseWords{{
@@ -125,50 +126,38 @@ Match MatchTotals(const TbTrParseNode* arguments, char kind, const Term& term,
     return {};
 }
 
-/// A statistic with its label and format.
-OutputSequence StatisticItem(const std::string& text, const TbTrParseNode* argument) {
-    OutputSequence item;
-    item.PushBack(text, false);
-    if (argument != nullptr) {
-        if (const TbTrParseNode* label = ArgumentLabel(*argument)) {
-            item.PushBack(",", false);
-            item.PushBack(TokenOf(*label).AsString(true), false);
-        }
-        if (const TbTrParseNode* format = ArgumentFormat(*argument)) {
-            item.PushBack(",", false);
-            item.PushBack(TokenOf(*format).AsString(false), false);
-        }
-    }
-    FuseShortLine(item);
-    return item;
-}
+/// A statistic by its new name; `baseWord` is empty for one that is no percentage.
+struct Statistic {
+    const TbTrParseNode& function;
+    std::string_view baseWord;
+    std::string_view newName;
+};
 
-void AppendItem(OutputSequence& list, OutputSequence item) {
+/// Appends a statistic with its label and format.
+void AppendStatistic(const Statistic& statistic, const TbTrParseNode* argument,
+                     OutputSequence& list) {
     if (!list.IsEmpty()) {
         list.PushBack(",", false);
     }
-    list.PushBack(std::move(item));
-}
-
-/// The texts of a function's statistics: one, or one for each base of a percentage.
-std::vector<std::string> StatisticTexts(const TbTrParseNode& function, const std::string& newName,
-                                        bool isPercentage, int bases) {
-    const std::string prefix = IsUnweighted(function) ? "U" : "";
-    std::string name = newName;
-    if (const TbTrParseNode* number = FunctionName(function).GetChild(0)) {
-        name += ' ' + TokenOf(*number).AsString(true);
+    list.BeginPart();
+    list.PushBack(IsUnweighted(statistic.function) ? "U" : "", false);
+    list.ExtendLastPiece(statistic.baseWord);
+    list.ExtendLastPiece(statistic.newName);
+    if (const TbTrParseNode* number = FunctionName(statistic.function).GetChild(0)) {
+        list.ExtendLastPiece(" ");
+        list.ExtendLastPiece(TokenOf(*number).AsString(true));
     }
-    if (!isPercentage) {
-        return {prefix + name};
-    }
-    std::vector<std::string> texts;
-    for (const BaseWord& row : gBaseWords) {
-        if ((bases & row.base) != 0) {
-            texts.push_back(std::string(prefix).append(row.word).append(name));
+    if (argument != nullptr) {
+        if (const TbTrParseNode* label = ArgumentLabel(*argument)) {
+            list.PushBack(",", false);
+            list.PushBack(TokenOf(*label).AsString(true), false);
+        }
+        if (const TbTrParseNode* format = ArgumentFormat(*argument)) {
+            list.PushBack(",", false);
+            list.PushBack(TokenOf(*format).AsString(false), false);
         }
     }
-    ZELK_ASSERT(!texts.empty());
-    return texts;
+    FuseShortLine(list);
 }
 
 /// The two lists of a magnet: the statistics of the cells and those of its totals.
@@ -195,20 +184,28 @@ bool ExpressFunction(const TbTrParseNode& function, const Term& term, int dimens
     if (!cells.applies && !totals.applies) {
         return true;
     }
-    int bases = 0;
-    if (isPercentage) {
-        bases = ParseTree::DeterminePercentageBases(term.expression, dimension,
-                                                    BaseVariables(function), expandedDimensions);
-        if ((bases & TBTR_OTHERTABPCT) != 0) {
-            bases |= TBTR_TABPCT;
-        }
-    }
-    for (const std::string& text : StatisticTexts(function, newName, isPercentage, bases)) {
+    const auto append = [&](std::string_view baseWord) {
+        const Statistic statistic{function, baseWord, newName};
         if (cells.applies) {
-            AppendItem(lists.cells, StatisticItem(text, cells.argument));
+            AppendStatistic(statistic, cells.argument, lists.cells);
         }
         if (totals.applies) {
-            AppendItem(lists.totals, StatisticItem(text, totals.argument));
+            AppendStatistic(statistic, totals.argument, lists.totals);
+        }
+    };
+    if (!isPercentage) {
+        append({});
+        return true;
+    }
+    int bases = ParseTree::DeterminePercentageBases(term.expression, dimension,
+                                                    BaseVariables(function), expandedDimensions);
+    if ((bases & TBTR_OTHERTABPCT) != 0) {
+        bases |= TBTR_TABPCT;
+    }
+    ZELK_ASSERT(bases != 0);
+    for (const BaseWord& row : gBaseWords) {
+        if ((bases & row.base) != 0) {
+            append(row.word);
         }
     }
     return true;
@@ -245,14 +242,13 @@ bool ParseTree::ExpressFunctions(const TbTrParseNode* statistics, const TbTrPars
     ExpressDefaultOfGroup(term, lists);
     output.PushBack(std::move(lists.cells));
     if (!lists.totals.IsEmpty()) {
-        OutputSequence totals;
-        totals.PushBack("TOTALS", false);
-        totals.PushBack("[", false);
-        totals.PushBack(std::move(lists.totals));
-        totals.PushBack("]", false);
-        FuseShortLine(totals);
         output.PushBack(",", false); // also behind an empty list
-        output.PushBack(std::move(totals));
+        output.BeginPart();
+        output.PushBack("TOTALS", false);
+        output.PushBack("[", false);
+        output.PushBack(lists.totals);
+        output.PushBack("]", false);
+        FuseShortLine(output);
     }
     return true;
 }

@@ -78,15 +78,14 @@ public:
             if (expression == nullptr) {
                 continue;
             }
-            OutputSequence sequence;
+            output.BeginPart();
             if (!ParseTree::ExpressDimension(*expression, dimension, m_statsDimension, m_expanded,
-                                             firstMagnet, sequence)) {
+                                             firstMagnet, output)) {
                 return false;
             }
-            if (sequence.Length() <= kLineLength) {
-                sequence.Fuse();
+            if (output.Length() <= kLineLength) {
+                output.Fuse();
             }
-            output.PushBack(std::move(sequence));
         }
         return true;
     }

@@ -208,7 +208,6 @@ TEST_F(ExpressedTree, FailureOfTheStatisticsIsPassedOn) {
         SCOPED_TRACE(expression);
         const TbTrParseNode& table = ParseTable(kDeclarations + expression + " /STATISTICS=foo");
         EXPECT_FALSE(ExpressRows(*table.GetChild(0), 1));
-        EXPECT_TRUE(m_output.IsEmpty());
     }
 }
 
