@@ -1,7 +1,9 @@
 #include "ctables/recastor/commandboundary.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/lexicalchars.h"
 #include "ctables/recastor/parseerror.h"
+#include "ctables/recastor/zelktokensequence.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <array>
@@ -12,33 +14,28 @@ namespace recastor {
 
 namespace {
 
-/// A word that opens a command of another kind. `compared` is the number of bytes that count, 0
-/// for all.
+/// A word that opens a command of another kind, and whether all of it counts.
 struct SpecialWord {
-    std::string word;
+    std::string_view word;
     CommandState state;
-    unsigned compared;
+    bool inFull = false;
+    std::uint32_t abbreviation = Abbreviation(word);
 };
 
-const auto& SpecialWords() {
-    constexpr unsigned kAbbreviation = 3;
-    static const std::array<SpecialWord, 6> gSpecialWords{{
-        {"*", kStateComment, kAbbreviation},
-        {"COMMENT", kStateComment, kAbbreviation},
-        {"**", kStateComment, kAbbreviation},
-        {"*>", kStateComment, kAbbreviation},
-        {"DOCUMENT", kStateDocument, kAbbreviation},
-        {"BEGIN", kStateBegin, 0},
-    }};
-    return gSpecialWords;
-}
+constexpr std::array<SpecialWord, 6> gSpecialWords{{
+    {"*", kStateComment},
+    {"COMMENT", kStateComment},
+    {"**", kStateComment},
+    {"*>", kStateComment},
+    {"DOCUMENT", kStateDocument},
+    {"BEGIN", kStateBegin, true},
+}};
 
 constexpr std::string_view gData = "DATA";
 
 /// Whether the token after BEGIN is DATA. A word takes a period that follows it into itself, so
 /// "DATA." counts.
-bool IsDataWord(const ZELKToken& token) {
-    const std::string& word = token.AsString(false);
+bool IsDataWord(std::string_view word) {
     return word == gData || (word.size() == gData.size() + 1 && word.ends_with('.') &&
                              word.compare(0, gData.size(), gData) == 0);
 }
@@ -111,19 +108,37 @@ bool ConfirmPeriod(MBCharPointer& cursor, const Text& text, int& line) {
 } // namespace
 
 void SwitchCommandState(int& state, const ZELKToken& token) {
+    SwitchCommandState(state, token.AsString(false));
+}
+
+void SwitchCommandState(int& state, std::string_view text) {
     if (state == kStateBegin) {
-        state = IsDataWord(token) ? kStateInlineData : kStateOrdinary;
+        state = IsDataWord(text) ? kStateInlineData : kStateOrdinary;
         return;
     }
     if (state != kStateStart) {
         return;
     }
     state = kStateOrdinary;
-    for (const SpecialWord& row : SpecialWords()) {
-        if (token.CompareAsString(row.word, row.compared, false) == 0) {
+    const std::uint32_t abbreviation = Abbreviation(text);
+    for (const SpecialWord& row : gSpecialWords) {
+        if (row.abbreviation == abbreviation && (!row.inFull || row.word == text)) {
             state = row.state;
             return;
         }
+    }
+}
+
+int KindOfCommand(int state) {
+    switch (state) {
+    case kStateComment:
+        return kCommentCommand;
+    case kStateDocument:
+        return kDocumentCommand;
+    case kStateInlineData:
+        return kInlineDataCommand;
+    default:
+        return kOrdinaryCommand;
     }
 }
 

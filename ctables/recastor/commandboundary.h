@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
@@ -23,6 +24,11 @@ enum CommandState : std::int32_t {
 /// Advances `state` by one token. First words are compared on three characters, so COMPUTE makes
 /// a comment command as COMMENT does; only BEGIN is compared in full.
 void SwitchCommandState(int& state, const ZELKToken& token);
+/// The same for a token whose text, with words upper-cased, is `text`.
+void SwitchCommandState(int& state, std::string_view text);
+
+/// The CommandKind that the state makes of a command.
+int KindOfCommand(int state);
 
 /// Byte offset of the period that ends a command within the `length` bytes at `lines` (NUL-
 /// terminated behind them), or -1 when none does. A period ends the command when nothing but

@@ -1,10 +1,13 @@
 #include "ctables/recastor/commandstream.h"
 
+#include "ctables/recastor/opening.h"
 #include "ctables/recastor/parseerror.h"
 #include "ctables/recastor/printcommand.h"
+#include "ctables/recastor/quickscan.h"
 #include "ctables/recastor/zelktokensequence.h"
 #include "platform/zelkbase/zelkassert.h"
 
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -97,7 +100,11 @@ void CommandStream::AppendFromBuffer(int ixEnd) {
         m_lineBuffer.resize(end);
         m_lineBuffer += '\n';
     }
-    m_command += m_lineBuffer;
+    if (m_command.empty()) {
+        m_command.swap(m_lineBuffer); // most commands are one line
+    } else {
+        m_command += m_lineBuffer;
+    }
     m_lineBuffer.clear();
 }
 
@@ -106,9 +113,9 @@ void CommandStream::AppendFromBuffer(int ixEnd) {
 void CommandStream::ClassifyLine() {
     try {
         ExamineLine(m_lineBuffer, m_lineNumber, [this](const std::string& text, std::size_t) {
-            const ZELKTokenSequence tokens(text, m_batch, kTokensThatTellTheKind);
-            m_commandKind = tokens.TypeOfCommand();
-            m_kindKnown = tokens.Size() > 0;
+            const Opening opening = ReadOpening(text, m_batch);
+            m_commandKind = opening.kind;
+            m_kindKnown = opening.holdsToken;
         });
     } catch (const ParseError& error) {
         // The search for the command's end tells whether the quote is really unclosed.
@@ -172,6 +179,11 @@ bool CommandStream::EndBeforeTrailingBlankLines() {
 /// Index in `line` of the period that ends the command; -1 when it goes on.
 int CommandStream::FindEnd(const std::string& line, std::int64_t lineNumber) const {
     const bool commentLike = m_commandKind == kCommentCommand || m_commandKind == kDocumentCommand;
+    const std::optional<int> quick =
+        commentLike ? QuickEndOfCommentCommand(line) : QuickEndOfCommand(line);
+    if (quick) {
+        return *quick;
+    }
     return ExamineLine(line, lineNumber, [&](const std::string& text, std::size_t skipped) {
         const int ixEnd = ZELKTokenSequence::FindEndOfCommand(text, commentLike);
         return ixEnd < 0 ? ixEnd : ixEnd + static_cast<int>(skipped);

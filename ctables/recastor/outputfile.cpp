@@ -28,11 +28,11 @@ std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count)
     std::string_view rest(text, static_cast<std::size_t>(count));
     for (auto lineFeed = rest.find('\n'); lineFeed != std::string_view::npos;
          lineFeed = rest.find('\n')) {
-        m_line += rest.substr(0, lineFeed);
+        m_block += rest.substr(0, lineFeed);
         rest.remove_prefix(lineFeed + 1);
         EndLine();
     }
-    m_line += rest;
+    m_block += rest;
     return count;
 }
 
@@ -44,29 +44,32 @@ int LineWriteBuffer::sync() {
 }
 
 void LineWriteBuffer::EndLine() {
-    if (!IsWSOnly(m_line)) {
-        m_anyLine = true;
-        m_block += m_line;
-        m_block += m_crLf && !m_line.ends_with('\r') ? "\r\n" : "\n";
-        if (m_block.size() >= kBlockSize) {
-            WriteBlock();
-        }
+    if (IsWSOnly(std::string_view(m_block).substr(m_lineStart))) {
+        m_block.resize(m_lineStart);
+        return;
     }
-    m_line.clear();
+    m_anyLine = true;
+    m_block += m_crLf && !m_block.ends_with('\r') ? "\r\n" : "\n";
+    m_lineStart = m_block.size();
+    if (m_block.size() >= kBlockSize) {
+        WriteBlock();
+    }
 }
 
 void LineWriteBuffer::Finish() {
     EndLine();
     if (!m_anyLine) {
         m_block += m_crLf ? "\r\n" : "\n";
+        m_lineStart = m_block.size();
     }
     WriteBlock();
 }
 
 void LineWriteBuffer::WriteBlock() {
     // After a failure nothing more is tried: a file with a hole is worse than a short one.
-    m_failed = m_failed || !m_file.Write(m_block);
-    m_block.clear();
+    m_failed = m_failed || !m_file.Write(std::string_view(m_block).substr(0, m_lineStart));
+    m_block.erase(0, m_lineStart);
+    m_lineStart = 0;
 }
 
 bool OutputFile::Open(const std::string& name, const FileDescriptor& input) {

@@ -35,8 +35,8 @@ private:
     void EndLine();
 
     const FileDescriptor& m_file;
-    std::string m_line;  ///< the line that is not yet ended
-    std::string m_block; ///< whole lines that wait to be written
+    std::string m_block;         ///< whole lines that wait to be written, and the one at hand
+    std::size_t m_lineStart = 0; ///< where in the block the line that is not yet ended begins
     bool m_flushThrough = false;
     bool m_crLf = false;
     bool m_anyLine = false;

@@ -2,13 +2,16 @@
 
 #include "ctables/recastor/parsetree_functions.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace recastor {
 
@@ -16,14 +19,14 @@ namespace {
 
 /// One function: the new name, kind and flag stand in the row or are computed by the mapper.
 struct FunctionInfo {
-    std::string fOldName;
+    std::string_view fOldName;
     FunctionOutput fOutput;
     FunctionOutput (*fMapper)(bool mr, const TbTrParseNode& node) = nullptr;
 };
 
 /// The first row whose name matches wins. CTABLES has one percentile, so the estimation methods of
 /// the old ones are dropped.
-const std::array<FunctionInfo, 25> funcInfoDictionary{{
+constexpr std::array<FunctionInfo, 25> funcInfoDictionary{{
     {"CASES", {"RESPONSES", 'R', false}},
     {"COUNT", {"COUNT", 'C', false}},
     {"CPCT", {nullptr, 'C', true}, CPCTMapper},
@@ -51,13 +54,6 @@ const std::array<FunctionInfo, 25> funcInfoDictionary{{
     {"APTILE", {"PTILE", 'S', false}},
 }};
 
-/// The first three characters of the name, filled up with blanks.
-std::string Key(const std::string& name) {
-    std::string key = name.substr(0, 3);
-    key.resize(3, ' ');
-    return key;
-}
-
 } // namespace
 
 FunctionOutput CPCTMapper(bool mr, const TbTrParseNode& node) {
@@ -84,10 +80,10 @@ FunctionOutput RPCTMapper(bool /*mr*/, const TbTrParseNode& node) {
 
 std::string ParseTree::MapFunctionName(const std::string& name, bool abbreviated, bool group,
                                        const TbTrParseNode& node, char& kind, bool& isPercentage) {
-    const std::string key = Key(name);
+    const std::uint32_t key = Abbreviation(name);
     const auto row = std::find_if(
         funcInfoDictionary.begin(), funcInfoDictionary.end(), [&](const FunctionInfo& info) {
-            return abbreviated ? Key(info.fOldName) == key : info.fOldName == name;
+            return abbreviated ? Abbreviation(info.fOldName) == key : info.fOldName == name;
         });
     if (row == funcInfoDictionary.end()) {
         return {};

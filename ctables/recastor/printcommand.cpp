@@ -12,8 +12,8 @@ constexpr unsigned kWidestIndent = 20;
 
 } // namespace
 
-bool IsWSOnly(const std::string& text) {
-    return text.find_first_not_of(" \t\n\r") == std::string::npos;
+bool IsWSOnly(std::string_view text) {
+    return text.find_first_not_of(" \t\n\r") == std::string_view::npos;
 }
 
 void PrintCommand(const std::string& text, std::ostream& out, unsigned indent) {
@@ -32,11 +32,10 @@ void PrintCommand(const std::string& text, std::ostream& out, unsigned indent) {
         lineEnd = body.substr(body.size() - 1);
         body.remove_suffix(1);
     }
-    out << body;
-    if (!body.ends_with('.')) {
-        out.put('.');
-    }
-    out << lineEnd << '\n' << std::flush;
+    out.write(body.data(), static_cast<std::streamsize>(body.size()));
+    std::string end = body.ends_with('.') ? "" : ".";
+    end.append(lineEnd).append(1, '\n');
+    out.write(end.data(), static_cast<std::streamsize>(end.size())).flush();
 }
 
 std::string CommentCommand(std::string text) {

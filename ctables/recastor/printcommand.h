@@ -3,11 +3,12 @@
 
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
 /// True when every character is a blank, a tab, a line feed or a carriage return; true for "".
-bool IsWSOnly(const std::string& text);
+bool IsWSOnly(std::string_view text);
 
 /// Writes `text` as one command or message line: `indent` blanks first (above 20: one), the text
 /// without its last line feed, a period unless it ends in one, a newline; then flushes. Commands

@@ -1,14 +1,17 @@
 #include "ctables/recastor/recastor.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/bison/tbtrparsebuilder.h"
 #include "ctables/recastor/bison/tbtrparser.h"
 #include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/conversionlistener.h"
 #include "ctables/recastor/errorlines.h"
 #include "ctables/recastor/messages.h"
+#include "ctables/recastor/opening.h"
 #include "ctables/recastor/parseigraph.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/printcommand.h"
+#include "ctables/recastor/quickscan.h"
 #include "ctables/recastor/tbtrtablescommand.h"
 #include "ctables/recastor/tokenscan.h"
 #include "ctables/recastor/zelktokensequence.h"
@@ -27,7 +30,7 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// A command that is converted: how it is recognised, framed and done.
 struct Conversion {
-    const char* word;
+    std::uint32_t abbreviation; ///< of the command's name
     const std::string& beginComment;
     const std::string& endComment;
     void (*convert)(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset,
@@ -36,31 +39,19 @@ struct Conversion {
 };
 
 /// How an ordinary command is converted, by its first word; null for one that is copied.
-const Conversion* FindConversion(ZELKTokenSequence& opening) {
-    constexpr unsigned kAbbreviation = 3;
+const Conversion* FindConversion(std::uint32_t abbreviation) {
     static const Conversion conversions[] = {
-        {"TABLES", IDS_STRING_COMMENT_BEGIN_TABLES_COMMAND, IDS_STRING_COMMENT_END_TABLES_COMMAND,
-         ParseTables, ReportedKind::kTables},
-        {"IGRAPH", IDS_STRING_COMMENT_BEGIN_IGRAPH_COMMAND, IDS_STRING_COMMENT_END_IGRAPH_COMMAND,
-         ParseIgraph, ReportedKind::kIgraph},
+        {Abbreviation("TABLES"), IDS_STRING_COMMENT_BEGIN_TABLES_COMMAND,
+         IDS_STRING_COMMENT_END_TABLES_COMMAND, ParseTables, ReportedKind::kTables},
+        {Abbreviation("IGRAPH"), IDS_STRING_COMMENT_BEGIN_IGRAPH_COMMAND,
+         IDS_STRING_COMMENT_END_IGRAPH_COMMAND, ParseIgraph, ReportedKind::kIgraph},
     };
-    if (opening.Next()) {
-        for (const Conversion& conversion : conversions) {
-            if (opening.CompareAsUpperString(conversion.word, kAbbreviation) == 0) {
-                return &conversion;
-            }
+    for (const Conversion& conversion : conversions) {
+        if (conversion.abbreviation == abbreviation) {
+            return &conversion;
         }
     }
     return nullptr;
-}
-
-/// A byte-order mark at the start of the file is written at once, so that the first command is
-/// recognised without it.
-void PassByteOrderMark(std::string& text, std::ostream& output) {
-    if (text.starts_with(kByteOrderMark)) {
-        output << kByteOrderMark;
-        text.erase(0, kByteOrderMark.size());
-    }
 }
 
 /// What listeners call a command that is copied, by its CommandKind.
@@ -72,11 +63,10 @@ ReportedKind KindOfCopied(int kind) {
 
 void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
                    std::ostream& output, ConversionListener& listener) {
-    ZELKTokenSequence opening(text, batch, kTokensThatTellTheKind);
-    const bool ordinary = opening.TypeOfCommand() == kOrdinaryCommand;
-    const Conversion* const conversion = ordinary ? FindConversion(opening) : nullptr;
-    listener.OnCommand(conversion != nullptr ? conversion->kind
-                                             : KindOfCopied(opening.TypeOfCommand()),
+    const Opening opening = ReadOpening(text, batch);
+    const bool ordinary = opening.kind == kOrdinaryCommand;
+    const Conversion* const conversion = ordinary ? FindConversion(opening.abbreviation) : nullptr;
+    listener.OnCommand(conversion != nullptr ? conversion->kind : KindOfCopied(opening.kind),
                        lineOffset + 1, text);
     if (conversion != nullptr) {
         auto tokens = std::make_unique<ZELKTokenSequence>(text, batch, 0);
@@ -86,7 +76,7 @@ void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
         conversion->convert(tokens.release(), output, lineOffset, listener);
         return;
     }
-    if (ordinary) {
+    if (ordinary && !QuickCheckTokens(text)) {
         CheckTokens(text.c_str(), batch); // a faulty command ends the run though it is only copied
     }
     PrintCommand(text, output, 0);
@@ -101,6 +91,18 @@ void ConvertOrCopyAt(std::int64_t firstLine, const std::string& text, bool batch
         error.IncrementLine(static_cast<long>(firstLine - 1));
         throw;
     }
+}
+
+/// A byte-order mark at the start of the file is written at once, so that the first command is
+/// recognised without it.
+void ConvertOrCopyFirst(const CommandStream& commands, bool batch, std::ostream& output,
+                        ConversionListener& listener) {
+    std::string text = commands.CommandString();
+    if (text.starts_with(kByteOrderMark)) {
+        output << kByteOrderMark;
+        text.erase(0, kByteOrderMark.size());
+    }
+    ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output, listener);
 }
 
 /// Parses the classifier's command; when that fails an error is recorded.
@@ -131,14 +133,12 @@ void TellError(long lineOffset, ConversionListener& listener) {
 bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output,
                      ConversionListener& listener) {
     try {
-        bool firstCommand = true;
+        if (!commands.NextCommand()) {
+            ConvertOrCopyFirst(commands, batch, output, listener);
+        }
         while (!commands.NextCommand()) {
-            std::string text = commands.CommandString();
-            if (firstCommand) {
-                PassByteOrderMark(text, output);
-                firstCommand = false;
-            }
-            ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output, listener);
+            ConvertOrCopyAt(commands.FirstLineNumber(), commands.CommandString(), batch, output,
+                            listener);
         }
         return true;
     } catch (const ParseError& error) {

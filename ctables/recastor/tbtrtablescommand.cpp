@@ -1,9 +1,11 @@
 #include "ctables/recastor/tbtrtablescommand.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -72,17 +74,8 @@ constexpr std::array<Keyword, 43> gTablesKWs{{
     {"LABELS", TB_LABELS},
 }};
 
-/// The first three bytes of a word as one number; a shorter word is filled up with zeros.
-constexpr unsigned Abbreviation(std::string_view word) {
-    unsigned packed = 0;
-    for (std::size_t i = 0; i < 3; ++i) {
-        packed = packed << 8U | (i < word.size() ? static_cast<unsigned char>(word[i]) : 0U);
-    }
-    return packed;
-}
-
 /// The keyword table by abbreviation, for every word of a command may be looked up there.
-using KeywordRow = std::pair<unsigned, int>;
+using KeywordRow = std::pair<std::uint32_t, int>;
 constexpr auto gKeywordsByAbbreviation = [] {
     std::array<KeywordRow, gTablesKWs.size()> rows{};
     std::transform(gTablesKWs.begin(), gTablesKWs.end(), rows.begin(), [](const Keyword& keyword) {
@@ -92,7 +85,7 @@ constexpr auto gKeywordsByAbbreviation = [] {
 }();
 
 /// The code of the first row that has the abbreviation; 0 when none has.
-int KeywordOfAbbreviation(unsigned abbreviation) {
+int KeywordOfAbbreviation(std::uint32_t abbreviation) {
     for (const auto& [rowAbbreviation, code] : gKeywordsByAbbreviation) {
         if (rowAbbreviation == abbreviation) {
             return code;

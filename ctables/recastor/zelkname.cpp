@@ -209,7 +209,8 @@ void GenerateZELKName(char* name, long number, NameTakenCallback taken, void* fi
         copy = numeric.data();
     }
     if (MendName(copy) != kOrdinaryName) {
-        copy = "V" + std::to_string(number);
+        copy.assign(1, 'V');
+        copy += std::to_string(number);
     }
     std::memcpy(name, copy.c_str(), copy.size() + 1);
     if (taken == nullptr) {

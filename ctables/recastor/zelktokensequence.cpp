@@ -145,16 +145,7 @@ int ZELKTokenSequence::VarNameCategory() const {
 }
 
 int ZELKTokenSequence::TypeOfCommand() const {
-    switch (m_pImp->m_tokenVec.TypeOfCommand()) {
-    case kStateComment:
-        return kCommentCommand;
-    case kStateDocument:
-        return kDocumentCommand;
-    case kStateInlineData:
-        return kInlineDataCommand;
-    default:
-        return kOrdinaryCommand;
-    }
+    return KindOfCommand(m_pImp->m_tokenVec.TypeOfCommand());
 }
 
 int ZELKTokenSequence::FindEndOfCommand(const std::string& text, bool commentMode) {

@@ -2,16 +2,29 @@
 
 #include "platform/zelkmb/zelkmb.h"
 
-#include <algorithm>
 #include <climits>
+#include <cstdint>
+#include <cstring>
 
 namespace recastor {
 
 namespace {
 
+/// The number of ASCII characters that `text` begins with; most inputs are looked through in words
+/// of eight.
 std::size_t AsciiPrefix(std::string_view text) {
-    const auto high = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };
-    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), high) - text.begin());
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((word & kHighBits) != 0) {
+            break;
+        }
+    }
+    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) {
+        ++length;
+    }
+    return length;
 }
 
 } // namespace

@@ -13,7 +13,11 @@ void CompleteElements(ChartModel& chart) {
     const bool points = chart.x1 && IsVariable(chart.y) &&
                         !HasType(chart.x1, Measurement::kCategorical) &&
                         !HasType(chart.y, Measurement::kCategorical);
-    chart.elements.emplace_back(points ? ChartElement(Scatter()) : ChartElement(Bar()));
+    if (points) {
+        chart.elements.emplace_back(Scatter());
+    } else {
+        chart.elements.emplace_back(Bar());
+    }
 }
 
 void CompleteY(ChartModel& chart) {

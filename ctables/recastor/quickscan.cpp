@@ -1,0 +1,249 @@
+#include "ctables/recastor/quickscan.h"
+
+#include "ctables/recastor/lexicalchars.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace recastor {
+
+namespace {
+
+/// What an ASCII character begins where a token may begin.
+enum class Start : std::uint8_t {
+    kUnknown, ///< left to the full walk
+    kBlank,
+    kWord,
+    kDigit,
+    kPeriod,
+    kQuote,
+    kSlash,
+    kOperator, ///< operators of several characters are taken piece by piece
+};
+
+constexpr Start StartOf(int code) {
+    switch (code) {
+    case ' ':
+    case '\t':
+    case '\n':
+    case '\r':
+        return Start::kBlank;
+    case '.':
+        return Start::kPeriod;
+    case '\'':
+    case '"':
+        return Start::kQuote;
+    case '/':
+        return Start::kSlash;
+    default:
+        break;
+    }
+    if (IsDigit(code)) {
+        return Start::kDigit;
+    }
+    if (IsExtendedAlpha(code)) {
+        return Start::kWord;
+    }
+    // An ampersand takes the asterisk or slash behind it into itself.
+    constexpr std::string_view operators = "<>=~+-*(),:;_?%|{}[]";
+    return operators.find(static_cast<char>(code)) != std::string_view::npos ? Start::kOperator
+                                                                             : Start::kUnknown;
+}
+
+constexpr auto gStarts = [] {
+    std::array<Start, 256> starts{};
+    for (int code = 1; code < 128; ++code) {
+        starts[static_cast<std::size_t>(code)] = StartOf(code);
+    }
+    return starts;
+}();
+
+constexpr CharSet gWordChars =
+    CharSet::Where([](int code) { return IsExtendedAlpha(code) || IsWordBodyOnly(code); });
+constexpr CharSet gDigits = CharSet::Where(IsDigit);
+constexpr CharSet gBlanks = CharSet::Of(" \t");
+constexpr CharSet gSpace = CharSet::Of(" \t\n\r");
+constexpr CharSet gLiteralJoin = CharSet::Of(" \n\r");
+/// What neither ends a command nor hides a period, nor is left to the full walk.
+constexpr CharSet gPlain = CharSet::AllBut(".\n\r'\"/");
+
+Start StartAt(const char* place) {
+    return gStarts[static_cast<unsigned char>(*place)];
+}
+
+const char* Skip(const char* place, const char* end, const CharSet& set) {
+    while (place != end && set.HasAscii(*place)) {
+        ++place;
+    }
+    return place;
+}
+
+bool IsHigh(char c) {
+    return static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// Behind the quote that closes the segment which opens at `quote`, when its line closes it with
+/// nothing but ASCII before; else null.
+const char* BehindSegment(const char* quote, const char* end) {
+    for (const char* place = quote + 1; place != end; ++place) {
+        if (*place == *quote) {
+            return place + 1;
+        }
+        if (*place == '\n' || *place == '\r' || *place == '\0' || IsHigh(*place)) {
+            return nullptr;
+        }
+    }
+    return nullptr;
+}
+
+/// Behind a literal of one segment that nothing is joined to; null for others.
+const char* BehindLiteral(const char* place, const char* end) {
+    const char quote = *place;
+    place = BehindSegment(place, end);
+    if (place == nullptr || (place != end && *place == quote)) {
+        return nullptr;
+    }
+    place = Skip(place, end, gLiteralJoin);
+    return place != end && *place == '+' ? nullptr : place;
+}
+
+/// Behind a number that has neither an exponent nor very many digits, and is not hexadecimal.
+const char* BehindNumber(const char* first, const char* end) {
+    constexpr std::ptrdiff_t kFewDigits = 300;
+    const char* place = Skip(first, end, gDigits);
+    if (place != end && *place == '.') {
+        place = Skip(place + 1, end, gDigits);
+    }
+    constexpr std::string_view unclear = "EeXx";
+    const bool clear = place == end || unclear.find(*place) == std::string_view::npos;
+    return clear && place - first <= kFewDigits ? place : nullptr;
+}
+
+/// Behind the token at `place` when it is surely well-formed, or behind a part of it; else null.
+/// A word stops before a byte that is not ASCII, which then is left to the full walk.
+const char* BehindToken(const char* place, const char* end) {
+    const char* const next = place + 1;
+    switch (StartAt(place)) {
+    case Start::kWord:
+        return Skip(next, end, gWordChars);
+    case Start::kDigit:
+        return BehindNumber(place, end);
+    case Start::kPeriod:
+        return next != end && IsDigit(*next) ? BehindNumber(place, end) : next;
+    case Start::kQuote:
+        return BehindLiteral(place, end);
+    case Start::kSlash:
+        return next != end && *next == '*' ? nullptr : next;
+    case Start::kOperator:
+        return next;
+    default:
+        return nullptr;
+    }
+}
+
+/// Whether the line ends at `place`, in a line feed or a carriage return and a line feed.
+bool IsLineEnd(const char* place, const char* end) {
+    place += place != end && *place == '\r' ? 1 : 0;
+    return end - place == 1 && *place == '\n';
+}
+
+} // namespace
+
+std::optional<int> QuickEndOfCommand(std::string_view line) {
+    const char* const end = line.data() + line.size();
+    for (const char* place = Skip(line.data(), end, gPlain); place != end;
+         place = Skip(place, end, gPlain)) {
+        switch (StartAt(place)) {
+        case Start::kPeriod: {
+            const char* const behind = Skip(place + 1, end, gBlanks);
+            if (IsLineEnd(behind, end)) {
+                return static_cast<int>(place - line.data());
+            }
+            if (behind == end || *behind == '/' || *behind == '\r') {
+                return std::nullopt;
+            }
+            place = behind;
+            break;
+        }
+        case Start::kQuote:
+            place = BehindSegment(place, end);
+            if (place == nullptr) {
+                return std::nullopt;
+            }
+            break;
+        case Start::kSlash:
+            ++place;
+            if (place == end || *place == '*') {
+                return std::nullopt;
+            }
+            break;
+        default:
+            return IsLineEnd(place, end) ? std::optional(-1) : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
+    const char* const begin = line.data();
+    const char* last = begin + line.size();
+    if (line.empty() || *--last != '\n') {
+        return std::nullopt;
+    }
+    last -= last != begin && last[-1] == '\r' ? 1 : 0;
+    const auto odd = [](char c) { return IsHigh(c) || c == '\0' || c == '\r' || c == '\n'; };
+    if (std::any_of(begin, last, odd)) {
+        return std::nullopt;
+    }
+    while (last != begin && gBlanks.HasAscii(last[-1])) {
+        --last;
+    }
+    return last != begin && last[-1] == '.' ? static_cast<int>(last - 1 - begin) : -1;
+}
+
+bool QuickCheckTokens(std::string_view text) {
+    const char* const end = text.data() + text.size();
+    const char* place = Skip(text.data(), end, gSpace);
+    while (place != end) {
+        place = BehindToken(place, end);
+        if (place == nullptr) {
+            return false;
+        }
+        place = Skip(place, end, gSpace);
+    }
+    return true;
+}
+
+std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
+    const char* const end = text.data() + text.size();
+    const char* first = text.data();
+    if (batch && first != end && (*first == '+' || *first == '-')) {
+        ++first;
+    }
+    first = Skip(first, end, gBlanks);
+    if (first == end || (StartAt(first) != Start::kWord && *first != '*')) {
+        return std::nullopt;
+    }
+    if (*first == '*') {
+        return QuickTokens{{first, 1}, {}};
+    }
+    const char* const behind = BehindToken(first, end);
+    const char* const second = Skip(behind, end, gSpace);
+    QuickTokens tokens{{first, behind}, {}};
+    if (second == end) {
+        return tokens;
+    }
+    const char* const behindSecond = *second != ',' ? BehindToken(second, end) : nullptr;
+    if (behindSecond == nullptr || (behindSecond != end && IsHigh(*behindSecond))) {
+        return std::nullopt;
+    }
+    if (StartAt(second) == Start::kWord) {
+        tokens.secondWord = {second, behindSecond};
+    }
+    return tokens;
+}
+
+} // namespace recastor

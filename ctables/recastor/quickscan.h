@@ -1,0 +1,32 @@
+/// Quick looks at plain text: most lines of a syntax file hold ASCII only and nothing odd.
+///
+/// Each of these functions stands for a full walk over characters. It either knows what that would
+/// find or says that it does not; the full walk then finds the answer, or what is wrong. Bytes
+/// beyond ASCII, NULs, comments in slash and asterisk and quotes that their line does not close are
+/// always left to it.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace recastor {
+
+/// The answer of FindEndOfCommand for one line that ends in a line feed.
+std::optional<int> QuickEndOfCommand(std::string_view line);
+/// The same for FindEndOfCommentCommand.
+std::optional<int> QuickEndOfCommentCommand(std::string_view line);
+
+/// Whether CheckTokens has surely nothing to throw.
+bool QuickCheckTokens(std::string_view text);
+
+/// The tokens that tell a command's kind.
+struct QuickTokens {
+    std::string_view first;      ///< a word or an asterisk
+    std::string_view secondWord; ///< empty when the second token is no word or there is none
+};
+
+/// The first tokens of a text that begins with a word or an asterisk and whose second token is
+/// surely well-formed.
+std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch);
+
+} // namespace recastor
