@@ -3,8 +3,10 @@
 
 #include "ctables/recastor/tbtrparsenode.h"
 
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace recastor {
 
@@ -12,7 +14,9 @@ class OutputSequence;
 
 /// Which total belongs to which variable of a table: from the variable's name as it is written to
 /// the SP_VARNAME node that declares its total.
-using TotalsMap = std::map<std::string, const TbTrParseNode*>;
+using TotalsMap =
+    std::map<std::string, const TbTrParseNode*, std::less<>,
+             SmallObjectAllocator<std::pair<const std::string, const TbTrParseNode*>>>;
 
 /// A namespace of operations on the tree; it has no state. Dimensions are numbered 1 rows, 2
 /// columns, 3 layers, 0 none. A dimension expression is an SP_VARNAME leaf or an SP_PLUS (stacking)

@@ -126,7 +126,7 @@ TbTrParseNode* ParseTree::FindNodeByType(TbTrParseNode* node, int type) {
 const TbTrParseNode* ParseTree::FindVariableType(const TbTrParseNode& table,
                                                  const std::string& name, int& type) {
     ZELK_ASSERT(!name.empty());
-    if (const auto* command = dynamic_cast<const TbTrCommandNode*>(&CommandRoot(table))) {
+    if (const TbTrCommandNode* command = CommandRoot(table).AsCommandNode()) {
         const auto declaration = command->FindDeclaration(name);
         type = declaration.type;
         return declaration.node;

@@ -3,8 +3,10 @@
 
 #include "ctables/recastor/tbtrparsenode.h"
 
+#include <functional>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace recastor {
 
@@ -21,12 +23,17 @@ public:
 
     TbTrCommandNode() : TbTrParseNode(TBI_GENERICLIST, nullptr) {}
 
+    const TbTrCommandNode* AsCommandNode() const override { return this; }
+
     /// The first declaration of the (upper-cased) name. The global subcommands must be in place and
     /// not change afterwards.
     Declaration FindDeclaration(std::string_view name) const;
 
 private:
-    using Declarations = std::unordered_map<std::string_view, Declaration>;
+    using Declarations =
+        std::unordered_map<std::string_view, Declaration, std::hash<std::string_view>,
+                           std::equal_to<>,
+                           SmallObjectAllocator<std::pair<const std::string_view, Declaration>>>;
 
     static void AddNames(const TbTrParseNode* list, int type, Declarations& declarations);
     Declarations ReadDeclarations() const;

@@ -31,30 +31,10 @@ TbTrParseNode::TbTrParseNode(int nodeType, ZELKToken* token) :
 
 TbTrParseNode::~TbTrParseNode() = default;
 
-int TbTrParseNode::GetNodeType() const {
-    return m_nodeType;
-}
-
-void TbTrParseNode::SetNodeType(int nodeType) {
-    m_nodeType = nodeType;
-}
-
-ZELKToken* TbTrParseNode::GetToken() const {
-    return m_token.get();
-}
-
 ZELKToken* TbTrParseNode::SetToken(ZELKToken* token) {
     ZELKToken* const previous = m_token.release();
     m_token.reset(token);
     return previous;
-}
-
-void TbTrParseNode::SetParent(TbTrParseNode* parent) {
-    m_parent = parent;
-}
-
-TbTrParseNode* TbTrParseNode::GetParent() const {
-    return m_parent;
 }
 
 TbTrParseNode::NodePtr TbTrParseNode::SetChild(unsigned index, TbTrParseNode* child) {
@@ -65,11 +45,16 @@ TbTrParseNode::NodePtr TbTrParseNode::SetChild(unsigned index, TbTrParseNode* ch
     if (previous != nullptr) {
         previous->SetParent(nullptr);
     }
+    Adopt(child, index);
+    return previous;
+}
+
+/// Tells the child that now stands in the slot (null: none) where it is.
+void TbTrParseNode::Adopt(TbTrParseNode* child, unsigned index) {
     if (child != nullptr) {
         child->SetParent(this);
         child->m_placeHint = index;
     }
-    return previous;
 }
 
 TbTrParseNode::NodePtr TbTrParseNode::RemoveChild(unsigned index) {
@@ -81,8 +66,8 @@ TbTrParseNode::NodePtr TbTrParseNode::RemoveChild(unsigned index) {
 }
 
 void TbTrParseNode::AppendChild(TbTrParseNode* child) {
-    m_children.emplace_back();
-    SetChild(GetChildCount() - 1, child);
+    m_children.emplace_back(child);
+    Adopt(child, GetChildCount() - 1);
 }
 
 unsigned TbTrParseNode::InsertNullChildren(unsigned index, unsigned count) {
@@ -95,10 +80,6 @@ unsigned TbTrParseNode::InsertNullChildren(unsigned index, unsigned count) {
                        m_children.begin() + static_cast<std::ptrdiff_t>(index) + tail,
                        m_children.end());
     return count;
-}
-
-TbTrParseNode* TbTrParseNode::GetChild(unsigned index) const {
-    return index < m_children.size() ? m_children[index].get() : nullptr;
 }
 
 unsigned TbTrParseNode::GetChildIndex(const TbTrParseNode* child) const {
@@ -118,8 +99,8 @@ unsigned TbTrParseNode::GetChildIndex(const TbTrParseNode* child) const {
     return child->m_placeHint;
 }
 
-unsigned TbTrParseNode::GetChildCount() const {
-    return static_cast<unsigned>(m_children.size());
+TbTrParseNode* TbTrParseNode::GetChild(unsigned index) const {
+    return index < m_children.size() ? m_children[index].get() : nullptr;
 }
 
 void TbTrParseNode::Print(std::ostream& out, int level) const {

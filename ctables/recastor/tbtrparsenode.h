@@ -12,6 +12,8 @@
 
 namespace recastor {
 
+class TbTrCommandNode;
+
 /// A node: a type of TbTrNodeType, the token that it stands for (keyword and structural nodes have
 /// none) and children in order. A node owns its token and its children. A child slot may hold
 /// null; such slots count, since they keep positions. Out-of-range indexes (0-based) are answered
@@ -32,30 +34,37 @@ public:
     TbTrParseNode(const TbTrParseNode&) = delete;
     TbTrParseNode& operator=(const TbTrParseNode&) = delete;
 
-    virtual int GetNodeType() const;
-    virtual void SetNodeType(int nodeType);
+    // The short operations are final, so that the compiler sees through them: every stage of the
+    // translation calls them for every node.
+
+    virtual int GetNodeType() const final { return m_nodeType; }
+    virtual void SetNodeType(int nodeType) final { m_nodeType = nodeType; }
     /// The token stays with the node.
-    virtual ZELKToken* GetToken() const;
+    virtual ZELKToken* GetToken() const final { return m_token.get(); }
     /// Takes over `token` and returns the previous one, which is the caller's to delete.
     virtual ZELKToken* SetToken(ZELKToken* token);
-    virtual void SetParent(TbTrParseNode* parent);
-    virtual TbTrParseNode* GetParent() const;
+    virtual void SetParent(TbTrParseNode* parent) final { m_parent = parent; }
+    virtual TbTrParseNode* GetParent() const final { return m_parent; }
     /// Puts `child` (may be null) into an existing slot and takes it over; returns what stood
     /// there. Out of range it does nothing, and `child` stays the caller's.
-    virtual NodePtr SetChild(unsigned index, TbTrParseNode* child);
+    virtual NodePtr SetChild(unsigned index, TbTrParseNode* child) final;
     /// Takes the slot away and returns what stood in it; later children move up.
     virtual NodePtr RemoveChild(unsigned index);
     /// Appends a slot and takes over `child`, which may be null.
-    virtual void AppendChild(TbTrParseNode* child);
+    virtual void AppendChild(TbTrParseNode* child) final;
     /// Inserts `count` null slots before position `index`, which may be the child count, and
     /// returns `count`; 0, with nothing changed, for a larger index.
     virtual unsigned InsertNullChildren(unsigned index, unsigned count);
-    virtual TbTrParseNode* GetChild(unsigned index) const;
+    virtual TbTrParseNode* GetChild(unsigned index) const final;
     /// The slot that holds exactly this node.
     virtual unsigned GetChildIndex(const TbTrParseNode* child) const;
-    virtual unsigned GetChildCount() const;
+    virtual unsigned GetChildCount() const final {
+        return static_cast<unsigned>(m_children.size());
+    }
     /// Debug print of the tree, `level` tabs deep (none when it is below 0 or above 20).
     virtual void Print(std::ostream& out, int level) const;
+    /// This node when it is the root of a parsed command; null for every other node.
+    virtual const TbTrCommandNode* AsCommandNode() const { return nullptr; }
 
     /// A deep copy without parent that the caller owns.
     TbTrParseNode* Clone() const;
@@ -74,6 +83,8 @@ public:
     static TbTrParseNode* MakeVarRangeNode(ZELKToken* first, ZELKToken* last);
 
 private:
+    void Adopt(TbTrParseNode* child, unsigned index);
+
     int m_nodeType;
     std::unique_ptr<ZELKToken> m_token;
     TbTrParseNode* m_parent = nullptr;

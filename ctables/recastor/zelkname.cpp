@@ -13,8 +13,8 @@ namespace recastor {
 namespace {
 
 /// The words of the language that cannot be names.
-constexpr std::array<const char*, 13> resvWds = {"ALL", "AND", "BY",  "EQ", "GE", "GT",  "LE",
-                                                 "LT",  "NE",  "NOT", "OR", "TO", "WITH"};
+constexpr std::array<std::string_view, 13> resvWds = {"ALL", "AND", "BY",  "EQ", "GE", "GT",  "LE",
+                                                      "LT",  "NE",  "NOT", "OR", "TO", "WITH"};
 /// No reserved word is longer.
 constexpr std::size_t kLongestReservedWord = 4;
 
@@ -57,7 +57,8 @@ std::size_t LengthWithoutTrailingBlanks(const char* text) {
 bool HoldsOnlyNameChars(const char* name, std::size_t length) {
     std::size_t i = 0;
     while (i < length) {
-        const int charLength = ZELKMBmblen_A(name + i, length - i);
+        const bool ascii = static_cast<unsigned char>(name[i]) < 0x80;
+        const int charLength = ascii ? 1 : ZELKMBmblen_A(name + i, length - i);
         if (charLength < 1 || (charLength == 1 && !IsSingleByteNameChar(name[i]))) {
             return false;
         }
@@ -68,8 +69,9 @@ bool HoldsOnlyNameChars(const char* name, std::size_t length) {
 
 bool IsReservedWord(const char* name, std::size_t length) {
     return length <= kLongestReservedWord &&
-           std::any_of(resvWds.begin(), resvWds.end(),
-                       [=](const char* word) { return ZELKMBqstricmp_A(name, length, word) != 0; });
+           std::any_of(resvWds.begin(), resvWds.end(), [=](std::string_view word) {
+               return word.size() == length && ZELKMBqstricmp_A(name, length, word.data()) != 0;
+           });
 }
 
 /// Whether the last `mark` of `name` ends it, blanks and control characters aside.

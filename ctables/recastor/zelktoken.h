@@ -55,7 +55,7 @@ private:
 };
 
 /// A numeric constant.
-class ZELKNumberToken : public ZELKToken {
+class ZELKNumberToken final : public ZELKToken {
 public:
     ZELKNumberToken(const char* first, const char* end, int line, int column, double value);
     TokenType Type() const override { return TokenSequenceBase::kNumber; }
@@ -68,7 +68,7 @@ private:
 };
 
 /// A word: a name, a keyword or, with an operator code, a reserved word.
-class ZELKStringToken : public ZELKToken {
+class ZELKStringToken final : public ZELKToken {
 public:
     ZELKStringToken(const char* first, const char* end, int line, int column,
                     std::string upperCased, OperatorCode code);
@@ -84,7 +84,7 @@ private:
 };
 
 /// A punctuation or operator symbol.
-class ZELKOperatorToken : public ZELKToken {
+class ZELKOperatorToken final : public ZELKToken {
 public:
     ZELKOperatorToken(const char* first, const char* end, int line, int column, OperatorCode code);
     TokenType Type() const override { return TokenSequenceBase::kOperator; }
@@ -97,7 +97,7 @@ private:
 };
 
 /// A quoted string; its raw text keeps the quotes and the joins of its segments.
-class ZELKLiteralToken : public ZELKToken {
+class ZELKLiteralToken final : public ZELKToken {
 public:
     ZELKLiteralToken(const char* first, const char* end, int line, int column, std::string value);
     TokenType Type() const override { return TokenSequenceBase::kLiteral; }

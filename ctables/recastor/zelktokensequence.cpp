@@ -11,18 +11,25 @@ namespace recastor {
 class ZELKTokenSequenceImp {
 public:
     ZELKTokenSequenceImp(const std::string& text, bool batch, int maxTokens) :
-        m_tokenVec(text.c_str(), batch, maxTokens) {}
+        m_tokenVec(text.c_str(), batch, maxTokens) {
+        MakeCurrent(0);
+    }
 
     std::size_t Count() const { return static_cast<std::size_t>(m_tokenVec.Count()); }
 
-    /// The current token; null at the end.
-    const ZELKToken* Current() const {
-        return m_curr < Count() ? &m_tokenVec[static_cast<int>(m_curr)] : nullptr;
+    void MakeCurrent(std::size_t index) {
+        m_curr = index;
+        m_current = index < Count() ? &m_tokenVec[static_cast<int>(index)] : nullptr;
     }
+    /// The current token; null at the end.
+    const ZELKToken* Current() const { return m_current; }
 
     std::size_t m_curr = 0;
     std::size_t m_nextTok = 0; ///< the token that the next Next() makes current
     ZELKTokenVector m_tokenVec;
+
+private:
+    const ZELKToken* m_current = nullptr;
 };
 
 namespace {
@@ -46,8 +53,8 @@ ZELKTokenSequence::ZELKTokenSequence(const std::string& text, bool batch, int ma
 ZELKTokenSequence::~ZELKTokenSequence() = default;
 
 bool ZELKTokenSequence::Next() {
-    m_pImp->m_curr = m_pImp->m_nextTok;
-    if (m_pImp->m_nextTok >= m_pImp->Count()) {
+    m_pImp->MakeCurrent(m_pImp->m_nextTok);
+    if (m_pImp->Current() == nullptr) {
         return false;
     }
     ++m_pImp->m_nextTok;

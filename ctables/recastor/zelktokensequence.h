@@ -24,7 +24,7 @@ enum CommandKind : int {
 inline constexpr int kTokensThatTellTheKind = 2;
 
 /// Owns the tokens of one command. Built for one reader; not shared between threads.
-class ZELKTokenSequence : public TokenSequenceBase {
+class ZELKTokenSequence final : public TokenSequenceBase {
 public:
     /// Tokenizes `text` at once. `batch`: batch-mode syntax rules; a `maxTokens` of 1 or more
     /// stops after that many tokens. Throws ParseError.

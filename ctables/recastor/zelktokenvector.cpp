@@ -1,6 +1,7 @@
 #include "ctables/recastor/zelktokenvector.h"
 
 #include "ctables/recastor/commandboundary.h"
+#include "ctables/recastor/lexicalchars.h"
 #include "ctables/recastor/parseerror.h"
 #include "ctables/recastor/tokenarray.h"
 #include "ctables/recastor/tokenscan.h"
@@ -47,8 +48,12 @@ void ZELKTokenVector::Tokenize(MBCharPointer& cursor, int tokenLimit) {
 }
 
 bool ZELKTokenVector::MatchAny(MBCharPointer& cursor, int line) {
+    const int code = cursor.Code();
+    if (IsExtendedAlpha(code)) { // most tokens are words, which nothing else begins like
+        return MatchWord(cursor, line);
+    }
     return MatchLiteral(cursor, line) || MatchMacroToken(cursor, line) ||
-           MatchNumber(cursor, line) || MatchOperator(cursor, line) || MatchWord(cursor, line);
+           MatchNumber(cursor, line) || MatchOperator(cursor, line);
 }
 
 /// Lets the first two tokens tell the kind of the command. A text may hold none: a comma or a

@@ -16,12 +16,20 @@ struct OpaqueValue {
 };
 
 /// Makes the value empty, whatever it held.
-void OpaqueValue_Init(OpaqueValue& value);
+inline void OpaqueValue_Init(OpaqueValue& value) {
+    value = {nullptr, 0, 0};
+}
 
 bool OpaqueValue_IsValid(const OpaqueValue& value);
-bool OpaqueValue_IsEmpty(const OpaqueValue& value);
-bool OpaqueValue_IsZELKToken(const OpaqueValue& value);
-bool OpaqueValue_IsParseNode(const OpaqueValue& value);
+inline bool OpaqueValue_IsEmpty(const OpaqueValue& value) {
+    return value.kind == 0;
+}
+inline bool OpaqueValue_IsZELKToken(const OpaqueValue& value) {
+    return value.kind < 0;
+}
+inline bool OpaqueValue_IsParseNode(const OpaqueValue& value) {
+    return value.kind > 0;
+}
 
 /// Deletes what the value holds and makes it empty.
 void OpaqueValue_Clear(OpaqueValue& opVal);

@@ -5,7 +5,6 @@ namespace recastor {
 
 namespace {
 
-constexpr int kEmpty = 0;
 constexpr int kToken = -1;
 constexpr int kNode = 1;
 
@@ -24,27 +23,11 @@ bool IsOneOf(int type, int first, int second, int third) {
 
 } // namespace
 
-void OpaqueValue_Init(OpaqueValue& value) {
-    value = {nullptr, 0, kEmpty};
-}
-
 bool OpaqueValue_IsValid(const OpaqueValue& value) {
     if (OpaqueValue_IsEmpty(value)) {
         return value.pointer == nullptr && value.tokenType == 0;
     }
     return value.pointer != nullptr && (OpaqueValue_IsZELKToken(value) || value.tokenType == 0);
-}
-
-bool OpaqueValue_IsEmpty(const OpaqueValue& value) {
-    return value.kind == kEmpty;
-}
-
-bool OpaqueValue_IsZELKToken(const OpaqueValue& value) {
-    return value.kind < kEmpty;
-}
-
-bool OpaqueValue_IsParseNode(const OpaqueValue& value) {
-    return value.kind > kEmpty;
 }
 
 void OpaqueValue_Clear(OpaqueValue& opVal) {
