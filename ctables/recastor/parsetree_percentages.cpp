@@ -1,5 +1,6 @@
 // Which bases a percentage has, by where its base variables stand in the table.
 
+#include "ctables/recastor/expandeddimensions.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/percentagebase.h"
@@ -38,12 +39,15 @@ std::array<int, kDimensions> FlagsOfDimensions(const TbTrParseNode& term, int st
                                                const TbTrParseNode& baseList,
                                                const TbTrParseNode& otherDimensions) {
     const auto statsSlot = static_cast<unsigned>(statsCompDim - 1);
+    const ExpandedDimensions* const remembering = otherDimensions.AsExpandedDimensions();
     std::array<int, kDimensions> baseInDim{};
     for (unsigned ixDim = 0; ixDim < kDimensions; ++ixDim) {
         const TbTrParseNode* const expression = otherDimensions.GetChild(ixDim);
         if (expression != nullptr) {
             ZELK_ASSERT_AS(ixDim != statsSlot, "ixDim != statsCompDim-1");
-            baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(*expression, baseList);
+            baseInDim[ixDim] = remembering != nullptr
+                                   ? remembering->FlagOf(ixDim, baseList)
+                                   : ParseTree::CheckBaseListInDimension(*expression, baseList);
         } else if (ixDim == statsSlot) {
             baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(term, baseList);
             ZELK_ASSERT(baseInDim[ixDim] != -1);

@@ -1,5 +1,6 @@
 // The translation of one TABLE subcommand with its local subcommands.
 
+#include "ctables/recastor/expandeddimensions.h"
 #include "ctables/recastor/outputsequence.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
@@ -56,7 +57,7 @@ public:
     /// Multiplies every dimension out; for the statistics dimension the result takes its place in
     /// the table, for the others it is kept beside, for the bases of percentages.
     TableDimensions(TbTrParseNode& table, int statsDimension) :
-        m_table(table), m_statsDimension(statsDimension), m_expanded(TBI_GENERICLIST, nullptr) {
+        m_table(table), m_statsDimension(statsDimension) {
         constexpr int kDimensions = 3;
         for (int dimension = 1; dimension <= kDimensions; ++dimension) {
             m_expanded.AppendChild(Expand(dimension).release());
@@ -109,7 +110,7 @@ private:
     TbTrParseNode& m_table;
     int m_statsDimension;
     int m_lastPresent = 0;
-    TbTrParseNode m_expanded;
+    ExpandedDimensions m_expanded;
     TbTrParseNode::NodePtr m_replaced; ///< the statistics dimension as it was
 };
 

@@ -38,47 +38,39 @@ ZELKToken* TbTrParseNode::SetToken(ZELKToken* token) {
 }
 
 TbTrParseNode::NodePtr TbTrParseNode::SetChild(unsigned index, TbTrParseNode* child) {
-    if (index >= m_children.size()) {
+    if (index >= m_children.Size()) {
         return nullptr;
     }
-    NodePtr previous = std::exchange(m_children[index], NodePtr(child));
+    NodePtr previous = m_children.Exchange(index, child);
     if (previous != nullptr) {
         previous->SetParent(nullptr);
     }
-    Adopt(child, index);
-    return previous;
-}
-
-/// Tells the child that now stands in the slot (null: none) where it is.
-void TbTrParseNode::Adopt(TbTrParseNode* child, unsigned index) {
     if (child != nullptr) {
         child->SetParent(this);
-        child->m_placeHint = index;
     }
+    return previous;
 }
 
 TbTrParseNode::NodePtr TbTrParseNode::RemoveChild(unsigned index) {
     NodePtr child = SetChild(index, nullptr);
-    if (index < m_children.size()) {
-        m_children.erase(m_children.begin() + static_cast<std::ptrdiff_t>(index));
+    if (index < m_children.Size()) {
+        m_children.Remove(index);
     }
     return child;
 }
 
 void TbTrParseNode::AppendChild(TbTrParseNode* child) {
-    m_children.emplace_back(child);
-    Adopt(child, GetChildCount() - 1);
+    m_children.Append(child);
+    if (child != nullptr) {
+        child->SetParent(this);
+    }
 }
 
 unsigned TbTrParseNode::InsertNullChildren(unsigned index, unsigned count) {
-    if (index > m_children.size()) {
+    if (index > m_children.Size()) {
         return 0;
     }
-    const auto tail = static_cast<std::ptrdiff_t>(m_children.size() - index);
-    m_children.resize(m_children.size() + count);
-    std::move_backward(m_children.begin() + static_cast<std::ptrdiff_t>(index),
-                       m_children.begin() + static_cast<std::ptrdiff_t>(index) + tail,
-                       m_children.end());
+    m_children.InsertNull(index, count);
     return count;
 }
 
@@ -86,21 +78,12 @@ unsigned TbTrParseNode::GetChildIndex(const TbTrParseNode* child) const {
     if (child == nullptr) {
         return kNoIndex;
     }
-    const unsigned hint = child->m_placeHint;
-    if (GetChild(hint) == child) {
-        return hint;
-    }
-    const auto found = std::find_if(m_children.begin(), m_children.end(),
-                                    [&](const NodePtr& slot) { return slot.get() == child; });
-    if (found == m_children.end()) {
-        return kNoIndex;
-    }
-    child->m_placeHint = static_cast<unsigned>(found - m_children.begin());
-    return child->m_placeHint;
+    const auto index = static_cast<unsigned>(m_children.IndexOf(child->m_place));
+    return GetChild(index) == child ? index : kNoIndex;
 }
 
 TbTrParseNode* TbTrParseNode::GetChild(unsigned index) const {
-    return index < m_children.size() ? m_children[index].get() : nullptr;
+    return index < m_children.Size() ? m_children[index].get() : nullptr;
 }
 
 void TbTrParseNode::Print(std::ostream& out, int level) const {
@@ -111,8 +94,8 @@ void TbTrParseNode::Print(std::ostream& out, int level) const {
     if (m_token != nullptr) {
         m_token->Print(out, indent);
     }
-    for (const NodePtr& child : m_children) {
-        if (child != nullptr) {
+    for (unsigned i = 0; i < GetChildCount(); ++i) {
+        if (const TbTrParseNode* child = GetChild(i)) {
             child->Print(out, indent + 1);
         }
     }
@@ -121,8 +104,9 @@ void TbTrParseNode::Print(std::ostream& out, int level) const {
 TbTrParseNode* TbTrParseNode::Clone() const {
     auto copy =
         std::make_unique<TbTrParseNode>(m_nodeType, m_token != nullptr ? m_token->Dup() : nullptr);
-    copy->m_children.reserve(m_children.size());
-    for (const NodePtr& child : m_children) {
+    copy->m_children.Reserve(m_children.Size());
+    for (unsigned i = 0; i < GetChildCount(); ++i) {
+        const TbTrParseNode* const child = GetChild(i);
         copy->AppendChild(child != nullptr ? child->Clone() : nullptr);
     }
     return copy.release();

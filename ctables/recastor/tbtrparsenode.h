@@ -1,6 +1,7 @@
 /// The tree of a parsed TABLES command.
 #pragma once
 
+#include "ctables/recastor/nodeslots.h"
 #include "ctables/recastor/tbtrnodetypes.h"
 #include "ctables/recastor/zelktoken.h"
 #include "platform/zelkbase/smallobjects.h"
@@ -8,10 +9,10 @@
 #include <cstdint>
 #include <memory>
 #include <ostream>
-#include <vector>
 
 namespace recastor {
 
+class ExpandedDimensions;
 class TbTrCommandNode;
 
 /// A node: a type of TbTrNodeType, the token that it stands for (keyword and structural nodes have
@@ -59,12 +60,14 @@ public:
     /// The slot that holds exactly this node.
     virtual unsigned GetChildIndex(const TbTrParseNode* child) const;
     virtual unsigned GetChildCount() const final {
-        return static_cast<unsigned>(m_children.size());
+        return static_cast<unsigned>(m_children.Size());
     }
     /// Debug print of the tree, `level` tabs deep (none when it is below 0 or above 20).
     virtual void Print(std::ostream& out, int level) const;
     /// This node when it is the root of a parsed command; null for every other node.
     virtual const TbTrCommandNode* AsCommandNode() const { return nullptr; }
+    /// This node when it holds the expanded dimensions of a table; null for every other node.
+    virtual const ExpandedDimensions* AsExpandedDimensions() const { return nullptr; }
 
     /// A deep copy without parent that the caller owns.
     TbTrParseNode* Clone() const;
@@ -83,14 +86,14 @@ public:
     static TbTrParseNode* MakeVarRangeNode(ZELKToken* first, ZELKToken* last);
 
 private:
-    void Adopt(TbTrParseNode* child, unsigned index);
+    friend class NodeSlots<TbTrParseNode>;
+    void NotePlace(std::uint32_t place) { m_place = place; }
 
     int m_nodeType;
+    std::uint32_t m_place = 0; ///< among the slots of the parent
     std::unique_ptr<ZELKToken> m_token;
     TbTrParseNode* m_parent = nullptr;
-    std::vector<NodePtr, SmallObjectAllocator<NodePtr>> m_children;
-    /// Where the parent held this node when it took it; a search for its place begins there.
-    mutable unsigned m_placeHint = 0;
+    NodeSlots<TbTrParseNode> m_children;
 };
 
 } // namespace recastor

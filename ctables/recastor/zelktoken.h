@@ -68,7 +68,7 @@ private:
 };
 
 /// A word: a name, a keyword or, with an operator code, a reserved word.
-class ZELKStringToken final : public ZELKToken {
+class ZELKStringToken : public ZELKToken {
 public:
     ZELKStringToken(const char* first, const char* end, int line, int column,
                     std::string upperCased, OperatorCode code);
