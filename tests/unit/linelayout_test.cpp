@@ -1,0 +1,58 @@
+#include "ctables/recastor/linelayout.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace recastor {
+
+namespace {
+
+/// The pieces laid out in lines of 8 bytes, indented by 2; "\n" breaks the line.
+std::string LaidOut(const std::vector<std::string>& pieces) {
+    LineLayout layout(8, 2);
+    for (const std::string& piece : pieces) {
+        if (piece == "\n") {
+            layout.BreakLine();
+        } else {
+            layout.Place(piece);
+        }
+    }
+    return layout.TakeText();
+}
+
+TEST(LineLayout, FirstLineIsNotIndented) {
+    EXPECT_EQ(LaidOut({" ab", "\n", " cd"}), "ab\n  cd");
+}
+
+TEST(LineLayout, OnlyTheFirstPieceOfAllBeginsTheFirstLine) {
+    EXPECT_EQ(LaidOut({"", "ab"}), "  ab");
+    EXPECT_EQ(LaidOut({"\n", "ab"}), "\n  ab");
+}
+
+TEST(LineLayout, LineMayBeFull) {
+    EXPECT_EQ(LaidOut({"abcd", "efgh"}), "abcdefgh");
+    EXPECT_EQ(LaidOut({"abcd", "efghi"}), "abcd\n  efghi");
+}
+
+TEST(LineLayout, PieceLongerThanALineStandsAlone) {
+    EXPECT_EQ(LaidOut({"ab", "0123456789", "cd"}), "ab\n  0123456789\n  cd");
+}
+
+TEST(LineLayout, CommaTakesThePieceBeforeIt) {
+    EXPECT_EQ(LaidOut({"abcd", " efg", ","}), "abcd\n  efg,");
+}
+
+TEST(LineLayout, CommaStaysBehindAPieceThatEndsLikeOne) {
+    // ",x" is read without its last character as a lone comma.
+    EXPECT_EQ(LaidOut({"abcdef", ",x", ","}), "abcdef,x,");
+}
+
+TEST(LineLayout, LeadingBlanksGoAtTheStartOfALineOnly) {
+    EXPECT_EQ(LaidOut({"ab", "  c", "     d"}), "ab  c\n  d");
+}
+
+} // namespace
+
+} // namespace recastor
