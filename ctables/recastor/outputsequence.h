@@ -20,6 +20,8 @@ public:
     OutputSequence();
 
     void Clear();
+    /// Makes room for so many bytes of text.
+    void Reserve(std::size_t size) { m_text.reserve(size); }
     bool IsEmpty() const { return m_pieces.empty(); }
     /// The number of pieces.
     std::size_t Size() const { return m_pieces.size(); }

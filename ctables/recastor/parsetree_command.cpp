@@ -18,7 +18,9 @@ constexpr unsigned kIndentation = 2;
 bool ParseTree::TranslateTablesCommand(TbTrParseNode* root, std::string& result) {
     result.clear();
     ZELK_ASSERT(root != nullptr && root->GetNodeType() == TBI_GENERICLIST);
+    constexpr std::size_t kUsualLength = 2000;
     OutputSequence command;
+    command.Reserve(kUsualLength);
     command.PushBack("CTABLES", false);
     command.PushBackNewline();
     command.PushBack("/MRSETS COUNTDUPLICATES=YES", false);

@@ -5,6 +5,7 @@
 #include "ctables/recastor/parsetree_functions.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/percentagebase.h"
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <algorithm>
@@ -38,14 +39,17 @@ void FuseShortLine(OutputSequence& sequence) {
     }
 }
 
+template <typename T>
+using SmallVector = std::vector<T, SmallObjectAllocator<T>>;
+
 /// What the functions are applied to: one operand of the multiplied-out statistics dimension.
 struct Term {
     const TbTrParseNode& table;
     const TbTrParseNode& expression;
     bool groupMagnet;
-    std::vector<int> types; ///< of the term's variables, in their order
-    std::vector<const TbTrParseNode*> variables;
-    std::vector<const TbTrParseNode*> totals; ///< the marks that the variables bear
+    SmallVector<int> types; ///< of the term's variables, in their order
+    SmallVector<const TbTrParseNode*> variables;
+    SmallVector<const TbTrParseNode*> totals; ///< the marks that the variables bear
 };
 
 Term MakeTerm(const TbTrParseNode& table, const TbTrParseNode& magnet) {
@@ -162,6 +166,14 @@ void AppendStatistic(const Statistic& statistic, const TbTrParseNode* argument,
 
 /// The two lists of a magnet: the statistics of the cells and those of its totals.
 struct StatisticsLists {
+    explicit StatisticsLists(const Term& term) {
+        constexpr std::size_t kUsualLength = 120;
+        cells.Reserve(kUsualLength);
+        if (!term.totals.empty()) {
+            totals.Reserve(kUsualLength);
+        }
+    }
+
     OutputSequence cells;
     OutputSequence totals;
 };
@@ -232,7 +244,7 @@ bool ParseTree::ExpressFunctions(const TbTrParseNode* statistics, const TbTrPars
                                  const TbTrParseNode& expandedDimensions, OutputSequence& output) {
     output.Clear();
     const Term term = MakeTerm(table, magnet);
-    StatisticsLists lists;
+    StatisticsLists lists(term);
     for (unsigned i = 0; statistics != nullptr && i < statistics->GetChildCount(); ++i) {
         if (!ExpressFunction(*statistics->GetChild(i), term, dimension, expandedDimensions,
                              lists)) {
