@@ -7,9 +7,11 @@
 namespace recastor {
 
 struct Opening {
-    int kind = 0;                   ///< one of CommandKind
-    bool holdsToken = false;        ///< a text may hold none: a lone comma, an open comment
-    std::uint32_t abbreviation = 0; ///< of the first token, a word upper-cased, a literal unquoted
+    int kind = 0;            ///< one of CommandKind
+    bool holdsToken = false; ///< a text may hold none: a lone comma, an open comment
+    /// Of the first token, a word upper-cased, a literal unquoted; of an asterisk for every
+    /// operator that begins with one.
+    std::uint32_t abbreviation = 0;
 };
 
 /// Reads no further than the second token. `batch`: batch-mode syntax rules. Throws ParseError.

@@ -39,31 +39,30 @@ void FuseShortLine(OutputSequence& sequence) {
     }
 }
 
-template <typename T>
-using SmallVector = std::vector<T, SmallObjectAllocator<T>>;
+struct TermVariable {
+    const TbTrParseNode* node;
+    int type;
+    const TbTrParseNode* total; ///< the mark that the variable bears; null for none
+};
 
 /// What the functions are applied to: one operand of the multiplied-out statistics dimension.
 struct Term {
     const TbTrParseNode& table;
     const TbTrParseNode& expression;
     bool groupMagnet;
-    SmallVector<int> types; ///< of the term's variables, in their order
-    SmallVector<const TbTrParseNode*> variables;
-    SmallVector<const TbTrParseNode*> totals; ///< the marks that the variables bear
+    bool hasTotals;
+    std::vector<TermVariable, SmallObjectAllocator<TermVariable>> variables; ///< in their order
 };
 
 Term MakeTerm(const TbTrParseNode& table, const TbTrParseNode& magnet) {
     const TbTrParseNode* const parent = magnet.GetParent();
     const bool nested = parent != nullptr && parent->GetNodeType() == SP_GREATERTHAN;
-    Term term{table, nested ? *parent : magnet, false, {}, {}, {}};
+    Term term{table, nested ? *parent : magnet, false, false, {}};
     for (const TbTrParseNode* variable = ParseTree::GetNextVariable(term.expression, nullptr);
          variable != nullptr; variable = ParseTree::GetNextVariable(term.expression, variable)) {
         const int type = DeclaredType(*variable, table);
-        term.types.push_back(type);
-        term.variables.push_back(variable);
-        if (const TbTrParseNode* mark = variable->GetChild(1)) {
-            term.totals.push_back(mark);
-        }
+        term.variables.push_back({variable, type, variable->GetChild(1)});
+        term.hasTotals = term.hasTotals || variable->GetChild(1) != nullptr;
         if (variable == &magnet) {
             term.groupMagnet = IsGroupType(type);
         }
@@ -80,8 +79,9 @@ bool KindSuits(char kind, int type) {
 }
 
 bool KindSuitsAny(char kind, const Term& term) {
-    return std::any_of(term.types.begin(), term.types.end(),
-                       [=](int type) { return KindSuits(kind, type); });
+    return std::any_of(
+        term.variables.begin(), term.variables.end(),
+        [=](const TermVariable& variable) { return KindSuits(kind, variable.type); });
 }
 
 /// Whether a function applies, and the argument whose label and format are then written (null when
@@ -101,10 +101,10 @@ Match MatchTerm(const TbTrParseNode* arguments, char kind, const Term& term) {
     if (!NamesVariables(arguments)) {
         return {KindSuitsAny(kind, term), arguments != nullptr ? arguments->GetChild(0) : nullptr};
     }
-    for (std::size_t i = 0; i < term.variables.size(); ++i) {
+    for (const TermVariable& variable : term.variables) {
         const TbTrParseNode* const argument =
-            FindArgument(arguments, TokenOf(*term.variables[i]).AsString(false));
-        if (argument != nullptr && KindSuits(kind, term.types[i])) {
+            FindArgument(arguments, TokenOf(*variable.node).AsString(false));
+        if (argument != nullptr && KindSuits(kind, variable.type)) {
             return {true, argument};
         }
     }
@@ -114,15 +114,18 @@ Match MatchTerm(const TbTrParseNode* arguments, char kind, const Term& term) {
 /// A total is named like a variable; the kind must suit what it is the total of.
 Match MatchTotals(const TbTrParseNode* arguments, char kind, const Term& term,
                   const Match& termMatch) {
-    if (term.totals.empty()) {
+    if (!term.hasTotals) {
         return {};
     }
     if (!NamesVariables(arguments)) {
         return termMatch;
     }
-    for (const TbTrParseNode* total : term.totals) {
+    for (const TermVariable& variable : term.variables) {
+        if (variable.total == nullptr) {
+            continue;
+        }
         const TbTrParseNode* const argument =
-            FindArgument(arguments, TokenOf(*total).AsString(false));
+            FindArgument(arguments, TokenOf(*variable.total).AsString(false));
         if (argument != nullptr && KindSuitsAny(kind, term)) {
             return {true, argument};
         }
@@ -169,7 +172,7 @@ struct StatisticsLists {
     explicit StatisticsLists(const Term& term) {
         constexpr std::size_t kUsualLength = 120;
         cells.Reserve(kUsualLength);
-        if (!term.totals.empty()) {
+        if (term.hasTotals) {
             totals.Reserve(kUsualLength);
         }
     }
@@ -229,7 +232,7 @@ void ExpressDefaultOfGroup(const Term& term, StatisticsLists& lists) {
         return;
     }
     lists.cells.PushBack("RESPONSES", false);
-    if (!term.totals.empty()) {
+    if (term.hasTotals) {
         if (!lists.totals.IsEmpty()) {
             lists.totals.PushBack(",", false);
         }

@@ -27,7 +27,7 @@ TEST_F(OpeningOfCommand, IsToldByTheFirstTokens) {
              {"tables /t=a\n", kOrdinaryCommand, "TAB"},
              {"ta\n", kOrdinaryCommand, "TA"},
              {"* it's\n", kCommentCommand, "*"},
-             {"** it's\n", kCommentCommand, "**"},
+             {"** it's\n", kCommentCommand, "*"},
              {"compute x=1\n", kCommentCommand, "COM"},
              {"Document it's\n", kDocumentCommand, "DOC"},
              {"begin data\n", kInlineDataCommand, "BEG"},
