@@ -21,14 +21,14 @@ std::string Plain(const std::string& name) {
     return plain;
 }
 
-/// The encoding of an installed locale; empty when it is not installed.
+/// The encoding of an installed locale; empty when it is not installed. The process's locale is C
+/// again behind it.
 std::string EncodingOf(const std::string& name) {
-    const locale_t locale = ::newlocale(LC_CTYPE_MASK, name.c_str(), nullptr);
-    if (locale == nullptr) {
-        return "";
+    std::string encoding;
+    if (std::setlocale(LC_CTYPE, name.c_str()) != nullptr) {
+        encoding = ::nl_langinfo(CODESET);
+        std::setlocale(LC_CTYPE, "C");
     }
-    std::string encoding = ::nl_langinfo_l(CODESET, locale);
-    ::freelocale(locale);
     return encoding;
 }
 

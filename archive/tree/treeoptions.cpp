@@ -30,7 +30,7 @@ struct Arguments {
 };
 
 void Mistake(const std::string& text) {
-    throw CLI::ValidationError("", text);
+    throw CLI::ValidationError(text);
 }
 
 void AddPositionals(CLI::App& app, Arguments& arguments) {

@@ -142,14 +142,18 @@ TEST_F(Conversion, EncodingIsUtf8WhereValidElseAny8Bit) {
 }
 
 TEST_F(Conversion, NamedEncodingIsThatOfAnInstalledLocale) {
-    const std::vector<std::string> locales{"LOCPATH=" RECASTOR_TEST_LOCALES};
+    // The C library forgets to free a copy of this path.
+    const std::vector<std::string> locales{"LOCPATH=" RECASTOR_TEST_LOCALES,
+                                           "ASAN_OPTIONS=detect_leaks=0"};
     // The second byte of this character of two bytes is a quote's look-alike in ASCII: "`".
     Put("a.syn", "TITLE '\x83\x60'.\n" + kTable);
     EXPECT_EQ(Run({"--encoding=ja_JP.SHIFT_JIS"}, locales).status, 0);
     EXPECT_EQ(Entry("a.syn").at("encoding"), "ja_JP.SHIFT_JIS");
     const RunResult unknown = Run({"--encoding=nonsense"}, locales);
     EXPECT_EQ(unknown.status, 2);
-    EXPECT_THAT(unknown.errors, HasSubstr("no locale is installed that has the encoding nonsense"));
+    EXPECT_THAT(
+        unknown.errors,
+        testing::StartsWith("--encoding: no locale is installed that has the encoding nonsense"));
 }
 
 TEST_F(Conversion, DryRunAndCheckWriteNothing) {
