@@ -13,7 +13,8 @@ constexpr unsigned kWidestIndent = 20;
 } // namespace
 
 bool IsWSOnly(std::string_view text) {
-    return text.find_first_not_of(" \t\n\r") == std::string_view::npos;
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
 }
 
 void PrintCommand(const std::string& text, std::ostream& out, unsigned indent) {
