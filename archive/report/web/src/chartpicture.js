@@ -1,7 +1,7 @@
 // The sketch of a chart, drawn when it comes into sight.
 import * as vega from 'vega';
 import { compile } from 'vega-lite';
-import { chartInWords, chartSpec } from './chartspec.js';
+import { chartInWords, vegaChart } from './vegachart.js';
 import { element } from './dom.js';
 
 /** The page's colours, light or dark. */
@@ -19,7 +19,7 @@ function colours() {
 }
 
 async function draw(sketch, place) {
-  const { spec } = compile({ ...chartSpec(sketch), config: colours() }, {
+  const { spec } = compile({ ...vegaChart(sketch), config: colours() }, {
     logger: vega.logger(vega.Error),
   });
   const view = new vega.View(vega.parse(spec), { renderer: 'svg', logLevel: vega.Error });

@@ -216,8 +216,8 @@ function faceted(sketch, layer) {
     : { facet: { column: panel('panel1', first), row: panel('panel2', second) }, spec };
 }
 
-/** The specification, with its data. */
-export function chartSpec(sketch) {
+/** The chart in the language of the chart library, with its data. */
+export function vegaChart(sketch) {
   const layer = sketch.form === 'three' ? fromAbove(sketch)
     : sketch.elements.flatMap((one) => ELEMENTS[one.type](sketch, one));
   const isPlain = sketch.form !== 'pie' && sketch.form !== 'three';
