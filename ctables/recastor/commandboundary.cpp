@@ -3,6 +3,7 @@
 #include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/lexicalchars.h"
 #include "ctables/recastor/parseerror.h"
+#include "ctables/recastor/quickscan.h"
 #include "ctables/recastor/zelktokensequence.h"
 #include "platform/zelkbase/zelkassert.h"
 
@@ -51,9 +52,6 @@ struct Text {
     int OffsetOf(const char* place) const { return static_cast<int>(place - begin); }
 };
 
-/// What neither ends a command nor begins what may hide a period.
-constexpr CharSet gPlain = CharSet::AllBut(".\n\r'\"/");
-constexpr CharSet gBlanks = CharSet::Of(" \t");
 constexpr CharSet gNotPeriods = CharSet::AllBut(".");
 
 /// Steps to the next period outside quotes and comments, or to the end.
@@ -147,6 +145,9 @@ int FindEndOfCommand(const char* lines, std::size_t length, bool commentMode) {
     if (commentMode) {
         return FindEndOfCommentCommand(lines, length);
     }
+    if (const auto end = QuickEndOfCommand({lines, length})) {
+        return *end;
+    }
     const Text text{lines, lines + length};
     MBCharPointer cursor(lines);
     int line = 1;
@@ -164,6 +165,9 @@ int FindEndOfCommand(const char* lines, std::size_t length, bool commentMode) {
 }
 
 int FindEndOfCommentCommand(const char* lines, std::size_t length) {
+    if (const auto end = QuickEndOfCommentCommand({lines, length})) {
+        return *end;
+    }
     const Text text{lines, lines + length};
     MBCharPointer cursor(lines);
     for (;;) {

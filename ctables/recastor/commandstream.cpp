@@ -3,11 +3,9 @@
 #include "ctables/recastor/opening.h"
 #include "ctables/recastor/parseerror.h"
 #include "ctables/recastor/printcommand.h"
-#include "ctables/recastor/quickscan.h"
 #include "ctables/recastor/zelktokensequence.h"
 #include "platform/zelkbase/zelkassert.h"
 
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -179,11 +177,6 @@ bool CommandStream::EndBeforeTrailingBlankLines() {
 /// Index in `line` of the period that ends the command; -1 when it goes on.
 int CommandStream::FindEnd(const std::string& line, std::int64_t lineNumber) const {
     const bool commentLike = m_commandKind == kCommentCommand || m_commandKind == kDocumentCommand;
-    const std::optional<int> quick =
-        commentLike ? QuickEndOfCommentCommand(line) : QuickEndOfCommand(line);
-    if (quick) {
-        return *quick;
-    }
     return ExamineLine(line, lineNumber, [&](const std::string& text, std::size_t skipped) {
         const int ixEnd = ZELKTokenSequence::FindEndOfCommand(text, commentLike);
         return ixEnd < 0 ? ixEnd : ixEnd + static_cast<int>(skipped);

@@ -38,6 +38,14 @@ constexpr bool IsQuote(int code) {
     return code == '\'' || code == '"';
 }
 
+/// The characters of a word behind its first.
+inline constexpr CharSet gWordChars =
+    CharSet::Where([](int code) { return IsExtendedAlpha(code) || IsWordBodyOnly(code); });
+inline constexpr CharSet gDigits = CharSet::Where(IsDigit);
+inline constexpr CharSet gBlanks = CharSet::Of(" \t");
+/// What neither ends a command nor begins what may hide a period.
+inline constexpr CharSet gPlain = CharSet::AllBut(".\n\r'\"/");
+
 /// Skips blanks, tabs and line breaks; true when there were any. `lines` is set to the number of
 /// line breaks, each of "\n", "\r", "\n\r" and "\r\n" being one. Behind a line break the cursor's
 /// character number is reset, so the new line's first character has number 0.

@@ -23,8 +23,6 @@ public:
     /// Makes room for so many bytes of text.
     void Reserve(std::size_t size) { m_text.reserve(size); }
     bool IsEmpty() const { return m_pieces.empty(); }
-    /// The number of pieces.
-    std::size_t Size() const { return m_pieces.size(); }
     /// Appends a piece, with one blank in front when `leadingBlank`.
     void PushBack(std::string_view text, bool leadingBlank);
     void PushBackNewline();

@@ -61,14 +61,8 @@ constexpr auto gStarts = [] {
     return starts;
 }();
 
-constexpr CharSet gWordChars =
-    CharSet::Where([](int code) { return IsExtendedAlpha(code) || IsWordBodyOnly(code); });
-constexpr CharSet gDigits = CharSet::Where(IsDigit);
-constexpr CharSet gBlanks = CharSet::Of(" \t");
 constexpr CharSet gSpace = CharSet::Of(" \t\n\r");
 constexpr CharSet gLiteralJoin = CharSet::Of(" \n\r");
-/// What neither ends a command nor hides a period, nor is left to the full walk.
-constexpr CharSet gPlain = CharSet::AllBut(".\n\r'\"/");
 
 Start StartAt(const char* place) {
     return gStarts[static_cast<unsigned char>(*place)];

@@ -11,7 +11,6 @@
 #include "ctables/recastor/parseigraph.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/printcommand.h"
-#include "ctables/recastor/quickscan.h"
 #include "ctables/recastor/tbtrtablescommand.h"
 #include "ctables/recastor/tokenscan.h"
 #include "ctables/recastor/zelktokensequence.h"
@@ -76,7 +75,7 @@ void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
         conversion->convert(tokens.release(), output, lineOffset, listener);
         return;
     }
-    if (ordinary && !QuickCheckTokens(text)) {
+    if (ordinary) {
         CheckTokens(text.c_str(), batch); // a faulty command ends the run though it is only copied
     }
     PrintCommand(text, output, 0);

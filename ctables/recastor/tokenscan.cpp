@@ -2,6 +2,7 @@
 
 #include "ctables/recastor/lexicalchars.h"
 #include "ctables/recastor/parseerror.h"
+#include "ctables/recastor/quickscan.h"
 
 #include <algorithm>
 #include <array>
@@ -91,10 +92,6 @@ Base::OperatorCode OneCharOperator(int code) {
     return code > 0 && code < 128 ? gCodeOfChar[static_cast<std::size_t>(code)]
                                   : Base::kNotOperator;
 }
-
-constexpr CharSet gWordChars =
-    CharSet::Where([](int code) { return IsExtendedAlpha(code) || IsWordBodyOnly(code); });
-constexpr CharSet gDigits = CharSet::Where(IsDigit);
 
 bool IsLineBreakOrBlank(int code) {
     return code == '\n' || code == '\r' || code == ' ';
@@ -332,6 +329,9 @@ void SkipSeparators(MBCharPointer& cursor, int& line) {
 }
 
 void CheckTokens(const char* text, bool batch) {
+    if (QuickCheckTokens(text)) {
+        return;
+    }
     MBCharPointer cursor(text);
     SkipBatchMark(cursor, batch);
     int line = 1;

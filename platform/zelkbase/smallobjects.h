@@ -84,12 +84,16 @@ struct SmallObjectAllocator {
     SmallObjectAllocator(const SmallObjectAllocator<Other>&) {}
 
     T* allocate(std::size_t count) {
-        return static_cast<T*>(SmallObjects::Allocate(count * sizeof(T)));
+        return static_cast<T*>(SmallObjects::Allocate(count * kElementSize));
     }
     void deallocate(T* memory, std::size_t count) noexcept {
-        SmallObjects::Release(memory, count * sizeof(T));
+        SmallObjects::Release(memory, count * kElementSize);
     }
     bool operator==(const SmallObjectAllocator&) const = default;
+
+private:
+    // The elements may well be pointers: their own size is meant, not that of what they point to.
+    static constexpr std::size_t kElementSize = sizeof(T); // NOLINT(bugprone-sizeof-expression)
 };
 
 } // namespace recastor
