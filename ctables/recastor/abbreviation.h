@@ -1,4 +1,4 @@
-/// The three characters on which the language compares its words.
+/// Short words as numbers, which are compared at once.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +14,16 @@ constexpr std::uint32_t Abbreviation(std::string_view word) {
     std::uint32_t packed = 0;
     for (std::size_t i = 0; i < kComparedLength; ++i) {
         packed = packed << 8U | (i < word.size() ? static_cast<unsigned char>(word[i]) : 0U);
+    }
+    return packed;
+}
+
+/// A word of at most four bytes as one number, which is the same for all spellings of ASCII letters.
+constexpr std::uint32_t PackUpperCased(std::string_view word) {
+    std::uint32_t packed = 0;
+    for (const char c : word) {
+        const char upper = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        packed = packed << 8U | static_cast<unsigned char>(upper);
     }
     return packed;
 }

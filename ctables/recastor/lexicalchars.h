@@ -34,6 +34,9 @@ constexpr bool IsInvalidUnquoted(int code) {
 }
 
 /// The apostrophe or the double quote.
+constexpr bool CanStartNumber(int code) {
+    return IsDigit(code) || code == '.';
+}
 constexpr bool IsQuote(int code) {
     return code == '\'' || code == '"';
 }

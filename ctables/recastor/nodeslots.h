@@ -34,6 +34,9 @@ public:
     }
 
     void Append(T* object) {
+        if (m_slots.size() == m_slots.capacity()) {
+            Reserve(std::max<std::size_t>(kFewSlots, 2 * m_slots.size()));
+        }
         m_slots.emplace_back(object);
         TellPlace(m_slots.size() - 1);
     }
@@ -65,6 +68,9 @@ public:
 
 private:
     using Offset = std::ptrdiff_t;
+
+    /// What most nodes that have any get along with.
+    static constexpr std::size_t kFewSlots = 2;
 
     void TellPlace(std::size_t place) {
         if (m_slots[place] != nullptr) {

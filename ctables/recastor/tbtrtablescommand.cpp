@@ -74,24 +74,31 @@ constexpr std::array<Keyword, 43> gTablesKWs{{
     {"LABELS", TB_LABELS},
 }};
 
-/// The keyword table by abbreviation, for every word of a command may be looked up there.
+/// The keyword table in the order of abbreviations, for every word of a command may be looked up
+/// there. Of rows with the same one the first wins.
 using KeywordRow = std::pair<std::uint32_t, int>;
 constexpr auto gKeywordsByAbbreviation = [] {
     std::array<KeywordRow, gTablesKWs.size()> rows{};
     std::transform(gTablesKWs.begin(), gTablesKWs.end(), rows.begin(), [](const Keyword& keyword) {
         return KeywordRow(Abbreviation(keyword.text), keyword.code);
     });
+    // A stable sort, which the library does not yet have at compile time.
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
+        const auto place =
+            std::upper_bound(rows.begin(), row, *row, [](const KeywordRow& a, const KeywordRow& b) {
+                return a.first < b.first;
+            });
+        std::rotate(place, row, row + 1);
+    }
     return rows;
 }();
 
 /// The code of the first row that has the abbreviation; 0 when none has.
 int KeywordOfAbbreviation(std::uint32_t abbreviation) {
-    for (const auto& [rowAbbreviation, code] : gKeywordsByAbbreviation) {
-        if (rowAbbreviation == abbreviation) {
-            return code;
-        }
-    }
-    return 0;
+    const auto* const row = std::lower_bound(
+        gKeywordsByAbbreviation.begin(), gKeywordsByAbbreviation.end(), abbreviation,
+        [](const KeywordRow& candidate, std::uint32_t sought) { return candidate.first < sought; });
+    return row != gKeywordsByAbbreviation.end() && row->first == abbreviation ? row->second : 0;
 }
 
 bool IsSlash(const ZELKTokenSequence& tokens) {
@@ -201,9 +208,14 @@ int TbTrTablesCommand::GetNextToken(ZELKToken*& token) {
     }
     UpdateSubcommandState(code);
     if (token == nullptr) {
-        token = m_pTokSeq->DupToken();
+        token = GiveToken();
     }
     return code;
+}
+
+/// The current token, for the parser to own. The arguments of BREAK will be read again.
+ZELKToken* TbTrTablesCommand::GiveToken() {
+    return m_resumePosition != 0 ? m_pTokSeq->DupToken() : m_pTokSeq->TakeToken();
 }
 
 /// Skips the command's name and gives the slash that begins the first subcommand, one of its own
@@ -222,7 +234,7 @@ int TbTrTablesCommand::DoStartUp(ZELKToken*& token) {
         return 0;
     }
     if (IsSlash(*m_pTokSeq)) {
-        token = m_pTokSeq->DupToken();
+        token = GiveToken();
     } else {
         token = new ZELKOperatorToken(slash, slash + 1, m_pTokSeq->LineNumber(),
                                       m_pTokSeq->Column(), Base::kSlash);
@@ -362,9 +374,9 @@ int TbTrTablesCommand::KeywordReadHere() const {
 
 /// Makes one token of a sign and the number behind it, or leaves the sign a token of its own.
 ZELKToken* TbTrTablesCommand::FoldSign(int& code) {
-    std::unique_ptr<ZELKToken> sign(m_pTokSeq->DupToken());
+    std::unique_ptr<ZELKToken> sign(GiveToken());
     if (m_pTokSeq->Next() && m_pTokSeq->Type() == Base::kNumber) {
-        const std::unique_ptr<ZELKToken> number(m_pTokSeq->DupToken());
+        const std::unique_ptr<ZELKToken> number(GiveToken());
         const bool negative = code == kMinusSign;
         code = SP_NUMBER;
         return MakeSignedNumber(*sign, *number, negative);

@@ -85,6 +85,7 @@ private:
     int ClassifyCurrentToken() const;
     int ClassifyStringToken() const;
     int KeywordReadHere() const;
+    ZELKToken* GiveToken();
     ZELKToken* FoldSign(int& code);
     void UpdateSubcommandState(int& code);
 

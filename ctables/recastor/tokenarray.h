@@ -21,6 +21,8 @@ public:
 
     std::size_t size() const { return m_tokens.size(); }
     const ZELKToken& operator[](std::size_t index) const { return *m_tokens[index]; }
+    /// Leaves an empty place.
+    std::unique_ptr<ZELKToken> Take(std::size_t index) { return std::move(m_tokens[index]); }
     void Append(std::unique_ptr<ZELKToken> token) { m_tokens.push_back(std::move(token)); }
 
     /// Deletes the tokens at positions above `index`, the last one first; with -1 it empties the

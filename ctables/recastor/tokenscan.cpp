@@ -1,5 +1,6 @@
 #include "ctables/recastor/tokenscan.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/lexicalchars.h"
 #include "ctables/recastor/parseerror.h"
 #include "ctables/recastor/quickscan.h"
@@ -9,6 +10,7 @@
 #include <cerrno>
 #include <clocale>
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -67,6 +69,14 @@ constexpr std::array<SpellingRow, 13> gReservedWords{{
     {"BY", Base::kBy},
     {"ALL", Base::kAll},
 }};
+
+/// gReservedWords as numbers, since every short word is looked up there.
+constexpr auto gPackedReservedWords = [] {
+    std::array<std::uint32_t, gReservedWords.size()> packed{};
+    std::transform(gReservedWords.begin(), gReservedWords.end(), packed.begin(),
+                   [](const SpellingRow& row) { return PackUpperCased(row.spelling); });
+    return packed;
+}();
 
 /// The code of `spelling` in `table`, kNotOperator when it has no row.
 template <typename Table>
@@ -222,7 +232,7 @@ bool ScanMacroToken(MBCharPointer& cursor) {
 }
 
 bool ScanNumber(MBCharPointer& cursor, int line, double* value) {
-    if (!IsDigit(cursor.Code()) && cursor.Code() != '.') {
+    if (!CanStartNumber(cursor.Code())) {
         return false;
     }
     const MBCharPointer start = cursor;
@@ -294,10 +304,15 @@ bool ScanWord(MBCharPointer& cursor) {
     return true;
 }
 
-TokenSequenceBase::OperatorCode ReservedWordCode(const std::string& upperCased) {
+TokenSequenceBase::OperatorCode ReservedWordCode(std::string_view word) {
     constexpr std::size_t kLongestReservedWord = 4;
-    return upperCased.size() <= kLongestReservedWord ? FindSpelling(gReservedWords, upperCased)
-                                                     : Base::kNotOperator;
+    if (word.size() > kLongestReservedWord) {
+        return Base::kNotOperator;
+    }
+    const auto* const found = std::find(gPackedReservedWords.begin(), gPackedReservedWords.end(),
+                                        PackUpperCased(word));
+    const auto index = static_cast<std::size_t>(found - gPackedReservedWords.begin());
+    return index < gReservedWords.size() ? gReservedWords[index].code : Base::kNotOperator;
 }
 
 void SkipBatchMark(MBCharPointer& cursor, bool batch) {

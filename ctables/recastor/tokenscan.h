@@ -5,6 +5,7 @@
 #include "platform/zelkbase/tokensequencebase.h"
 
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
@@ -24,8 +25,8 @@ bool ScanNumber(MBCharPointer& cursor, int line, double* value);
 bool ScanOperator(MBCharPointer& cursor, TokenSequenceBase::OperatorCode& code);
 bool ScanWord(MBCharPointer& cursor);
 
-/// The operator that a word is; kNotOperator for a word that is not reserved.
-TokenSequenceBase::OperatorCode ReservedWordCode(const std::string& upperCased);
+/// The operator that a word, in any case, is; kNotOperator for a word that is not reserved.
+TokenSequenceBase::OperatorCode ReservedWordCode(std::string_view word);
 
 /// In batch mode a "+" or "-" at the start is a continuation mark and no token.
 void SkipBatchMark(MBCharPointer& cursor, bool batch);

@@ -1,9 +1,11 @@
 #include "ctables/recastor/zelkname.h"
 
+#include "ctables/recastor/abbreviation.h"
 #include "platform/zelkmb/zelkmb.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -17,6 +19,13 @@ constexpr std::array<std::string_view, 13> resvWds = {"ALL", "AND", "BY",  "EQ",
                                                       "LT",  "NE",  "NOT", "OR", "TO", "WITH"};
 /// No reserved word is longer.
 constexpr std::size_t kLongestReservedWord = 4;
+
+/// The reserved words as numbers, since every short name is looked up there.
+constexpr auto gPackedResvWds = [] {
+    std::array<std::uint32_t, resvWds.size()> packed{};
+    std::transform(resvWds.begin(), resvWds.end(), packed.begin(), PackUpperCased);
+    return packed;
+}();
 
 /// The punctuation that names may hold.
 constexpr std::string_view specials = "@#$_.";
@@ -68,10 +77,11 @@ bool HoldsOnlyNameChars(const char* name, std::size_t length) {
 }
 
 bool IsReservedWord(const char* name, std::size_t length) {
-    return length <= kLongestReservedWord &&
-           std::any_of(resvWds.begin(), resvWds.end(), [=](std::string_view word) {
-               return word.size() == length && ZELKMBqstricmp_A(name, length, word.data()) != 0;
-           });
+    if (length > kLongestReservedWord) {
+        return false;
+    }
+    const std::uint32_t packed = PackUpperCased({name, length});
+    return std::find(gPackedResvWds.begin(), gPackedResvWds.end(), packed) != gPackedResvWds.end();
 }
 
 /// Whether the last `mark` of `name` ends it, blanks and control characters aside.

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace recastor {
@@ -72,11 +73,11 @@ bool ZELKTokenVector::MatchWord(MBCharPointer& cursor, int line) {
     if (!ScanWord(cursor)) {
         return false;
     }
-    std::string upperCased = UpperCased(start, cursor);
-    const TokenSequenceBase::OperatorCode code = ReservedWordCode(upperCased);
-    m_TokVec->Append(std::make_unique<ZELKStringToken>(start.Pointer(), cursor.Pointer(), line,
-                                                       start.CharacterNumber(),
-                                                       std::move(upperCased), code));
+    const std::string_view word(start.Pointer(),
+                                static_cast<std::size_t>(cursor.Pointer() - start.Pointer()));
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(
+        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(),
+        UpperCased(start, cursor), ReservedWordCode(word)));
     return true;
 }
 

@@ -23,6 +23,11 @@ public:
     }
     /// The current token; null at the end.
     const ZELKToken* Current() const { return m_current; }
+    ZELKToken* TakeCurrent() {
+        return m_current != nullptr
+                   ? (m_current = nullptr, m_tokenVec.TakeToken(static_cast<int>(m_curr)).release())
+                   : nullptr;
+    }
 
     std::size_t m_curr = 0;
     std::size_t m_nextTok = 0; ///< the token that the next Next() makes current
@@ -132,6 +137,10 @@ int ZELKTokenSequence::CompareAsUpperString(const std::string& s, unsigned n) co
 ZELKToken* ZELKTokenSequence::DupToken() const {
     const ZELKToken* token = m_pImp->Current();
     return token != nullptr ? token->Dup() : nullptr;
+}
+
+ZELKToken* ZELKTokenSequence::TakeToken() {
+    return m_pImp->TakeCurrent();
 }
 
 int ZELKTokenSequence::VarNameCategory() const {

@@ -52,6 +52,9 @@ public:
     virtual int CompareAsUpperString(const std::string& s, unsigned n) const;
     /// A copy of the current token that the caller owns; null at the end.
     virtual ZELKToken* DupToken() const;
+    /// The current token itself, which the caller then owns; null at the end. Its place in the
+    /// sequence is empty afterwards and must not be read again.
+    ZELKToken* TakeToken();
 
     /// What kind of variable name the current token is: 1 ordinary, 2 scratch ("#"), 3 system
     /// ("$"), 0 none.

@@ -48,12 +48,18 @@ void ZELKTokenVector::Tokenize(MBCharPointer& cursor, int tokenLimit) {
 }
 
 bool ZELKTokenVector::MatchAny(MBCharPointer& cursor, int line) {
+    // No two kinds of token begin alike, but for a number and the operator that a point is.
     const int code = cursor.Code();
-    if (IsExtendedAlpha(code)) { // most tokens are words, which nothing else begins like
+    if (IsExtendedAlpha(code)) {
         return MatchWord(cursor, line);
     }
-    return MatchLiteral(cursor, line) || MatchMacroToken(cursor, line) ||
-           MatchNumber(cursor, line) || MatchOperator(cursor, line);
+    if (IsQuote(code)) {
+        return MatchLiteral(cursor, line);
+    }
+    if (code == '!') {
+        return MatchMacroToken(cursor, line);
+    }
+    return (CanStartNumber(code) && MatchNumber(cursor, line)) || MatchOperator(cursor, line);
 }
 
 /// Lets the first two tokens tell the kind of the command. A text may hold none: a comma or a
@@ -80,6 +86,11 @@ int ZELKTokenVector::Count() const {
 const ZELKToken& ZELKTokenVector::operator[](int index) const {
     ZELK_ASSERT_AS(0 <= index && index < Count(), "0 <= index && index < (int)m_TokVec.size()");
     return (*m_TokVec)[static_cast<std::size_t>(index)];
+}
+
+std::unique_ptr<ZELKToken> ZELKTokenVector::TakeToken(int index) {
+    ZELK_ASSERT(0 <= index && index < Count());
+    return m_TokVec->Take(static_cast<std::size_t>(index));
 }
 
 void ZELKTokenVector::ClearTokensAfterIndex(int index) {

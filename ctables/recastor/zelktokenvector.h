@@ -31,6 +31,8 @@ public:
     int Count() const;
     /// The token at `index` (0-based), which must be below Count(). It belongs to the vector.
     const ZELKToken& operator[](int index) const;
+    /// Gives up the token at `index`, which must be below Count() and is not to be read again.
+    std::unique_ptr<ZELKToken> TakeToken(int index);
 
     /// kStateComment, kStateDocument or kStateInlineData, else 0.
     int TypeOfCommand() const { return m_commandState; }
