@@ -18,7 +18,8 @@ constexpr std::uint32_t Abbreviation(std::string_view word) {
     return packed;
 }
 
-/// A word of at most four bytes as one number, which is the same for all spellings of ASCII letters.
+/// A word of at most four bytes as one number, which is the same for all spellings of ASCII
+/// letters.
 constexpr std::uint32_t PackUpperCased(std::string_view word) {
     std::uint32_t packed = 0;
     for (const char c : word) {

@@ -309,8 +309,8 @@ TokenSequenceBase::OperatorCode ReservedWordCode(std::string_view word) {
     if (word.size() > kLongestReservedWord) {
         return Base::kNotOperator;
     }
-    const auto* const found = std::find(gPackedReservedWords.begin(), gPackedReservedWords.end(),
-                                        PackUpperCased(word));
+    const auto* const found =
+        std::find(gPackedReservedWords.begin(), gPackedReservedWords.end(), PackUpperCased(word));
     const auto index = static_cast<std::size_t>(found - gPackedReservedWords.begin());
     return index < gReservedWords.size() ? gReservedWords[index].code : Base::kNotOperator;
 }

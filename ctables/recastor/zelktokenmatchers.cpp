@@ -76,8 +76,8 @@ bool ZELKTokenVector::MatchWord(MBCharPointer& cursor, int line) {
     const std::string_view word(start.Pointer(),
                                 static_cast<std::size_t>(cursor.Pointer() - start.Pointer()));
     m_TokVec->Append(std::make_unique<ZELKStringToken>(
-        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(),
-        UpperCased(start, cursor), ReservedWordCode(word)));
+        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(), UpperCased(start, cursor),
+        ReservedWordCode(word)));
     return true;
 }
 

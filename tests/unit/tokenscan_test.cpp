@@ -96,10 +96,11 @@ TEST_F(Scan, ValuesAreToldWhenTheyAreAskedFor) {
     EXPECT_EQ(code, TokenSequenceBase::kElemPower);
 }
 
-TEST_F(Scan, ReservedWordsAreUpperCasedWholeWords) {
+TEST_F(Scan, ReservedWordsAreWholeWordsInAnyCase) {
     EXPECT_EQ(ReservedWordCode("WITH"), TokenSequenceBase::kWith);
     EXPECT_EQ(ReservedWordCode("ALL"), TokenSequenceBase::kAll);
-    for (const char* word : {"", "W", "WIT", "WITHIN", "with", "TABLE"}) {
+    EXPECT_EQ(ReservedWordCode("wItH"), TokenSequenceBase::kWith);
+    for (const char* word : {"", "W", "WIT", "WITHIN", "w\xA9th", "TABLE"}) {
         EXPECT_EQ(ReservedWordCode(word), TokenSequenceBase::kNotOperator) << word;
     }
 }
