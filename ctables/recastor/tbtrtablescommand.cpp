@@ -213,9 +213,11 @@ int TbTrTablesCommand::GetNextToken(ZELKToken*& token) {
     return code;
 }
 
-/// The current token, for the parser to own. The arguments of BREAK will be read again.
+/// The current token, for the parser to own. The arguments of BREAK will be read again, and with
+/// them the slash that ends them.
 ZELKToken* TbTrTablesCommand::GiveToken() {
-    return m_resumePosition != 0 ? m_pTokSeq->DupToken() : m_pTokSeq->TakeToken();
+    const bool staysHere = m_resumePosition != 0 || IsSlash(*m_pTokSeq);
+    return staysHere ? m_pTokSeq->DupToken() : m_pTokSeq->TakeToken();
 }
 
 /// Skips the command's name and gives the slash that begins the first subcommand, one of its own

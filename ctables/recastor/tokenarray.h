@@ -20,7 +20,8 @@ public:
     ~TokenVector();
 
     std::size_t size() const { return m_tokens.size(); }
-    const ZELKToken& operator[](std::size_t index) const { return *m_tokens[index]; }
+    /// Null for a token that was taken.
+    const ZELKToken* At(std::size_t index) const { return m_tokens[index].get(); }
     /// Leaves an empty place.
     std::unique_ptr<ZELKToken> Take(std::size_t index) { return std::move(m_tokens[index]); }
     void Append(std::unique_ptr<ZELKToken> token) { m_tokens.push_back(std::move(token)); }

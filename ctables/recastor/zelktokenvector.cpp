@@ -85,7 +85,9 @@ int ZELKTokenVector::Count() const {
 
 const ZELKToken& ZELKTokenVector::operator[](int index) const {
     ZELK_ASSERT_AS(0 <= index && index < Count(), "0 <= index && index < (int)m_TokVec.size()");
-    return (*m_TokVec)[static_cast<std::size_t>(index)];
+    const ZELKToken* const token = m_TokVec->At(static_cast<std::size_t>(index));
+    ZELK_ASSERT(token != nullptr);
+    return *token;
 }
 
 std::unique_ptr<ZELKToken> ZELKTokenVector::TakeToken(int index) {

@@ -153,6 +153,28 @@ TEST_F(TokenSequence, DuplicatedTokenOutlivesTheSequence) {
     EXPECT_EQ(token->AsString(false), "ABC");
 }
 
+TEST_F(TokenSequence, TakenTokenOutlivesTheSequenceWhichGoesOnBehindIt) {
+    auto tokens = std::make_unique<ZELKTokenSequence>("abc /", false, 0);
+    tokens->Next();
+    const std::unique_ptr<ZELKToken> token(tokens->TakeToken());
+    EXPECT_EQ(tokens->Tell(), 0U);
+    EXPECT_EQ(tokens->Size(), 2U);
+    ASSERT_TRUE(tokens->Next());
+    EXPECT_EQ(tokens->Operator(), Base::kSlash);
+    EXPECT_FALSE(tokens->Next());
+    EXPECT_EQ(tokens->TakeToken(), nullptr);
+    tokens.reset();
+    EXPECT_EQ(token->AsString(false), "ABC");
+}
+
+TEST(TokenSequenceDeathTest, TakenTokenIsNotReadAgain) {
+    ZELKTokenSequence tokens("abc", false, 0);
+    tokens.Next();
+    delete tokens.TakeToken();
+    tokens.Seek(0);
+    EXPECT_DEATH(tokens.Next(), "token != nullptr");
+}
+
 TEST_F(TokenSequence, ComparesTheUpperCasedText) {
     const ZELKTokenSequence tokens("tab", false, 0);
     EXPECT_EQ(tokens.CompareAsUpperString("TABLES", 3), 0);
