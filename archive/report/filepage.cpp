@@ -5,6 +5,12 @@
 #include "archive/outcome/shownpath.h"
 #include "archive/report/pageshell.h"
 
+#include <array>
+#include <cstdio>
+
+#define XXH_INLINE_ALL
+#include <xxhash.h>
+
 namespace recastor {
 
 namespace {
@@ -49,15 +55,6 @@ void WriteCommand(const CommandOutcome& command, JsonWriter& json) {
     json.EndObject();
 }
 
-std::string Hexadecimal(std::uint64_t number) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string text(2 * sizeof number, '0');
-    for (auto digit = text.rbegin(); digit != text.rend(); ++digit, number >>= 4U) {
-        *digit = kDigits[number & 0xFU];
-    }
-    return text;
-}
-
 } // namespace
 
 bool HasFilePage(const FileOutcome& outcome) {
@@ -65,11 +62,10 @@ bool HasFilePage(const FileOutcome& outcome) {
 }
 
 std::string FilePageName(std::string_view path) {
-    std::uint64_t hash = 0xcbf29ce484222325U; // FNV-1a
-    for (const char c : path) {
-        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
-    }
-    return "files/" + Hexadecimal(hash) + ".html";
+    std::array<char, 2 * sizeof(XXH64_hash_t) + 1> hash{};
+    std::snprintf(hash.data(), hash.size(), "%016llx",
+                  static_cast<unsigned long long>(XXH3_64bits(path.data(), path.size())));
+    return "files/" + std::string(hash.data()) + ".html";
 }
 
 std::string FilePage(const FileOutcome& outcome) {
