@@ -66,8 +66,9 @@ std::string PathOfUri(std::string_view uri) {
     std::string path;
     while (!uri.empty()) {
         unsigned value = 0;
+        const char* const behind = uri.data() + std::min<std::size_t>(uri.size(), 3);
         const bool escaped = uri.front() == '%' && uri.size() >= 3 &&
-                             std::from_chars(&uri[1], &uri[0] + 3, value, 16).ptr == &uri[0] + 3;
+                             std::from_chars(uri.data() + 1, behind, value, 16).ptr == behind;
         path += escaped ? static_cast<char>(value) : uri.front();
         uri.remove_prefix(escaped ? 3 : 1);
     }

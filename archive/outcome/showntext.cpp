@@ -39,8 +39,8 @@ bool IsAscii(std::string_view text) {
 
 /// A conversion to UTF-8; only of ASCII when iconv does not know the encoding.
 iconv_t OpenConversion(const std::string& encoding) {
-    const iconv_t conversion = iconv_open("UTF-8", encoding.c_str());
-    const auto none = reinterpret_cast<iconv_t>(-1); // NOLINT: what iconv_open answers
+    iconv_t conversion = iconv_open("UTF-8", encoding.c_str());
+    auto* const none = reinterpret_cast<iconv_t>(-1); // NOLINT: what iconv_open answers
     return conversion != none ? conversion : iconv_open("UTF-8", "ASCII");
 }
 

@@ -1,15 +1,20 @@
 #include "archive/outcome/timestamp.h"
 
 #include <array>
+#include <charconv>
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
+#include <cstring>
 #include <ctime>
+#include <string_view>
 
 namespace recastor {
 
 namespace {
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
+constexpr std::ptrdiff_t kFractionDigits = 9;
 
 } // namespace
 
@@ -22,18 +27,24 @@ std::string Timestamp(std::int64_t nanoseconds) {
     std::tm parts{};
     gmtime_r(&seconds, &parts);
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d.%09ldZ",
-                  parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour,
-                  parts.tm_min, parts.tm_sec, static_cast<long>(fraction));
+    static_cast<void>(std::snprintf(text.data(), text.size(),
+                                    "%04d-%02d-%02dT%02d:%02d:%02d.%09ldZ", parts.tm_year + 1900,
+                                    parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min,
+                                    parts.tm_sec, static_cast<long>(fraction)));
     return text.data();
 }
 
 std::optional<std::int64_t> ReadTimestamp(const std::string& text) {
     std::tm parts{};
     const char* const rest = strptime(text.c_str(), "%Y-%m-%dT%H:%M:%S", &parts);
-    long fraction = 0;
-    char zone = '\0';
-    if (rest == nullptr || std::sscanf(rest, ".%9ld%c", &fraction, &zone) != 2 || zone != 'Z') {
+    if (rest == nullptr || *rest != '.') {
+        return std::nullopt;
+    }
+    const char* const digits = rest + 1;
+    const char* const end = digits + std::strlen(digits);
+    std::uint32_t fraction = 0;
+    const char* const zone = std::from_chars(digits, end, fraction).ptr;
+    if (zone - digits != kFractionDigits || std::string_view(zone, end) != "Z") {
         return std::nullopt;
     }
     return timegm(&parts) * kNanosecondsPerSecond + fraction;

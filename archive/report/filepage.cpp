@@ -63,8 +63,9 @@ bool HasFilePage(const FileOutcome& outcome) {
 
 std::string FilePageName(std::string_view path) {
     std::array<char, 2 * sizeof(XXH64_hash_t) + 1> hash{};
-    std::snprintf(hash.data(), hash.size(), "%016llx",
-                  static_cast<unsigned long long>(XXH3_64bits(path.data(), path.size())));
+    static_cast<void>(
+        std::snprintf(hash.data(), hash.size(), "%016llx",
+                      static_cast<unsigned long long>(XXH3_64bits(path.data(), path.size()))));
     return "files/" + std::string(hash.data()) + ".html";
 }
 

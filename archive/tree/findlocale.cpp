@@ -27,7 +27,7 @@ std::string EncodingOf(const std::string& name) {
     std::string encoding;
     if (std::setlocale(LC_CTYPE, name.c_str()) != nullptr) {
         encoding = ::nl_langinfo(CODESET);
-        std::setlocale(LC_CTYPE, "C");
+        static_cast<void>(std::setlocale(LC_CTYPE, "C"));
     }
     return encoding;
 }

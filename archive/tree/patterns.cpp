@@ -4,11 +4,13 @@
 
 #include <algorithm>
 #include <climits>
+#include <clocale>
 #include <cwchar>
 #include <cwctype>
 #include <fnmatch.h>
-#include <locale.h>
+#include <memory>
 #include <string_view>
+#include <type_traits>
 
 namespace recastor {
 
@@ -23,9 +25,14 @@ public:
     LocaleOfUtf8& operator=(const LocaleOfUtf8&) = delete;
 
 private:
+    struct FreeLocale {
+        void operator()(locale_t locale) const { ::freelocale(locale); }
+    };
+
     static locale_t Utf8() {
-        static const locale_t locale = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-        return locale; // null, where there is none, leaves the locale as it is
+        static const std::unique_ptr<std::remove_pointer_t<locale_t>, FreeLocale> locale(
+            ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr));
+        return locale.get(); // null, where there is none, leaves the locale as it is
     }
 
     locale_t m_previous;

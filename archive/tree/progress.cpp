@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
+#include <string>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -21,9 +23,7 @@ std::uint64_t Failures(const OutcomeCounts& counts) {
 }
 
 std::string Number(double value) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.0f", value);
-    return text.data();
+    return std::to_string(std::llround(value));
 }
 
 /// "1:02:03 left", "2:03 left"; empty when it cannot be told.
@@ -35,10 +35,11 @@ std::string TimeLeft(const ProgressState& state) {
     const auto seconds = static_cast<long>(static_cast<double>(state.total - state.done) / rate);
     std::array<char, 48> text{};
     if (seconds >= 3600) {
-        std::snprintf(text.data(), text.size(), ", %ld:%02ld:%02ld left", seconds / 3600,
-                      seconds / 60 % 60, seconds % 60);
+        static_cast<void>(std::snprintf(text.data(), text.size(), ", %ld:%02ld:%02ld left",
+                                        seconds / 3600, seconds / 60 % 60, seconds % 60));
     } else {
-        std::snprintf(text.data(), text.size(), ", %ld:%02ld left", seconds / 60, seconds % 60);
+        static_cast<void>(std::snprintf(text.data(), text.size(), ", %ld:%02ld left", seconds / 60,
+                                        seconds % 60));
     }
     return text.data();
 }

@@ -41,9 +41,9 @@ std::string HashOfFile(const std::string& fullPath) {
     }
     const XXH128_hash_t hash = HashOfContent(file);
     std::array<char, 33> text{};
-    std::snprintf(text.data(), text.size(), "%016llx%016llx",
-                  static_cast<unsigned long long>(hash.high64),
-                  static_cast<unsigned long long>(hash.low64));
+    static_cast<void>(std::snprintf(text.data(), text.size(), "%016llx%016llx",
+                                    static_cast<unsigned long long>(hash.high64),
+                                    static_cast<unsigned long long>(hash.low64)));
     return text.data();
 }
 

@@ -22,6 +22,8 @@ public:
 
 /// `what` and the reason that `number`, an errno, stands for.
 inline FileError SystemError(const std::string& what, int number = errno) {
+    // The checker does not see that the inherited constructor is explicit.
+    // NOLINTNEXTLINE(modernize-return-braced-init-list)
     return FileError(what + ": " + std::generic_category().message(number));
 }
 

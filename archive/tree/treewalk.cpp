@@ -103,7 +103,7 @@ std::optional<WalkEntry> TreeWalk::Look(const Name& name, const Folder& folder) 
         return LookAtFile(path, name, folder);
     }
     if (const auto identity = IdentityOf(FullPath(path));
-        identity && m_notEntered.count(*identity) > 0) {
+        identity && m_notEntered.contains(*identity)) {
         return std::nullopt;
     }
     try {

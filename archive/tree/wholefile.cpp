@@ -26,7 +26,7 @@ WholeFile::WholeFile(std::string fileName) :
 WholeFile::~WholeFile() {
     if (m_stream.is_open()) {
         m_stream.close();
-        std::remove(Unfinished(m_fileName).c_str());
+        static_cast<void>(std::remove(Unfinished(m_fileName).c_str()));
     }
 }
 

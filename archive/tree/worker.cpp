@@ -38,9 +38,9 @@ void UseLocale(const std::string& name) {
 void RunWorker(const TreeOptions& options, const FileDescriptor& socket,
                const FileDescriptor& errors) {
     // Ctrl-C is sent to every process of the terminal; only the first one decides what it means.
-    std::signal(SIGINT, SIG_IGN);
-    std::signal(SIGTERM, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGINT, SIG_IGN));
+    static_cast<void>(std::signal(SIGTERM, SIG_IGN));
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     const struct rlimit noCoreFile {};
     ::setrlimit(RLIMIT_CORE, &noCoreFile);
     ::dup2(errors.Number(), STDERR_FILENO);

@@ -146,7 +146,7 @@ void WorkerPool::Serve(Worker& worker, bool readable, bool writable) {
     }
 }
 
-void WorkerPool::Send(Worker& worker) const {
+void WorkerPool::Send(Worker& worker) {
     while (!worker.toSend.empty()) {
         const ssize_t count = ::send(worker.socket.Number(), worker.toSend.data(),
                                      worker.toSend.size(), MSG_NOSIGNAL);

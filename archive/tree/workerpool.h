@@ -57,8 +57,8 @@ private:
 
     void Start(Worker& worker) const;
     void Serve(Worker& worker, bool readable, bool writable);
-    void Send(Worker& worker) const;
-    bool Receive(Worker& worker);
+    static void Send(Worker& worker);
+    static bool Receive(Worker& worker);
     void CheckTime(Worker& worker);
     /// The worker's process is over, or is ended when it is not.
     void Replace(Worker& worker, const std::string& reason);

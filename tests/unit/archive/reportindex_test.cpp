@@ -45,7 +45,7 @@ TEST(ReportIndex, CarriesHeadingFilesAndTotals) {
     EXPECT_EQ(data, nlohmann::json::parse(R"({
         "heading": {"Source": "<a>", "Target": "b"},
         "files": [["<b>", "", "copied", 0, 0, 7, 0, 0, 99, ""],
-                  ["c", "files/af63de4c8601eff2.html", "ended", 1, 0, 0, 2, 1, 0, "m"]],
+                  ["c", "files/8c40219a46b9f81b.html", "ended", 1, 0, 0, 2, 1, 0, "m"]],
         "totals": {"files": 2, "filesConverted": 1, "filesIncomplete": 1, "filesFailed": 0,
                    "filesSkipped": 0, "commandsConverted": 1, "commandsNotConverted": 0,
                    "commandsCopied": 7, "warnings": 2, "missedLines": 1}})"));

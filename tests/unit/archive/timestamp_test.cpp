@@ -20,6 +20,8 @@ TEST(Timestamp, IsReadBack) {
     }
     EXPECT_EQ(ReadTimestamp("yesterday"), std::nullopt);
     EXPECT_EQ(ReadTimestamp("2000-02-29T00:00:00Z"), std::nullopt);
+    EXPECT_EQ(ReadTimestamp("2000-02-29T00:00:00.5Z"), std::nullopt);
+    EXPECT_EQ(ReadTimestamp("2000-02-29T00:00:00.000000001Z "), std::nullopt);
     EXPECT_EQ(ReadTimestamp(""), std::nullopt);
 }
 
