@@ -90,6 +90,20 @@ TEST_F(BadInput, NamesThatDifferInCaseOnlyAreTold) {
     EXPECT_TRUE(HasTarget("report.syn"));
 }
 
+TEST_F(BadInput, SecondNameFailsWhereTheTargetFolderIsBlindToCase) {
+    Put("Report.syn", kTable);
+    Put("report.syn", "COMPUTE a = 1.\n");
+    Put("other.syn", "COMPUTE b = 1.\n");
+    const RunResult result = Run({}, {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY, "RECASTOR_CASE_BLIND=1",
+                                      "ASAN_OPTIONS=verify_asan_link_order=0"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(Message("report.syn"), "its target would be that of Report.syn");
+    EXPECT_EQ(Entry("report.syn").at("status"), "failed");
+    EXPECT_FALSE(HasTarget("report.syn"));
+    EXPECT_TRUE(HasTarget("Report.syn"));
+    EXPECT_TRUE(HasTarget("other.syn"));
+}
+
 TEST_F(BadInput, NamesOfAnyBytesAreConvertedAndShownSafely) {
     const std::vector<std::pair<std::string, std::string>> names{
         {"line\nbreak.syn", "line\\x0Abreak.syn"},

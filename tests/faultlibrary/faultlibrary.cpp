@@ -1,16 +1,20 @@
 // A library that is loaded in front of the C library and disturbs chosen calls of the system. The
 // environment says which: RECASTOR_FAULT=CALL:NUMBER:ERROR makes the NUMBERth call (from 1) of CALL
 // fail with errno ERROR, and every later one when NUMBER is followed by "+". ERROR "short" makes a
-// read or a write take one byte only; ERROR "kill" kills the program in place of the call.
+// read or a write take one byte only; ERROR "kill" kills the program in place of the call. With
+// RECASTOR_CASE_BLIND every file system seems to take names that differ in case for one, as far as
+// faccessat() tells.
 
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <string>
+#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -82,9 +86,31 @@ Function* Next(const char* name) {
     return function;
 }
 
+/// Whether the folder holds a name that differs from `name` in case at most.
+bool HoldsInAnyCase(int folder, const char* name) {
+    const int reader = ::openat(folder, ".", O_RDONLY | O_DIRECTORY);
+    DIR* const entries = ::fdopendir(reader);
+    if (entries == nullptr) {
+        return false;
+    }
+    bool holds = false;
+    while (const dirent* const entry = ::readdir(entries)) {
+        holds = holds || ::strcasecmp(entry->d_name, name) == 0;
+    }
+    ::closedir(entries);
+    return holds;
+}
+
 } // namespace
 
 extern "C" {
+
+int faccessat(int folder, const char* name, int mode, int flags) noexcept {
+    if (std::getenv("RECASTOR_CASE_BLIND") != nullptr && HoldsInAnyCase(folder, name)) {
+        return 0;
+    }
+    return Next<int(int, const char*, int, int)>("faccessat")(folder, name, mode, flags);
+}
 
 int open(const char* path, int flags, ...) {
     if (Fails("open")) {
