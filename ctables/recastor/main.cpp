@@ -7,7 +7,6 @@
 
 int main(int argc, char* argv[]) {
     recastor::EnableLocale();
-    std::ios::sync_with_stdio(false);
     const auto request = recastor::ReadArguments(argc, argv);
     if (!request) {
         std::cerr << recastor::Usage(argc > 0 ? argv[0] : "") << '\n';
