@@ -1,5 +1,7 @@
 #include "tests/fuzz/keptlines.h"
 
+#include <utility>
+
 namespace recastor {
 
 namespace {
@@ -40,12 +42,13 @@ bool Holds(std::string_view outputLine, std::string_view line) {
 } // namespace
 
 std::optional<std::string> FirstLostLine(std::string_view input, std::string_view output) {
-    if (input.starts_with(kByteOrderMark)) { // goes to the front of the output
-        input.remove_prefix(kByteOrderMark.size());
-    }
+    bool isFirst = true;
     while (!input.empty()) {
-        const std::string_view line = TakeLine(input);
+        std::string_view line = TakeLine(input);
         bool found = line.empty();
+        if (!found && std::exchange(isFirst, false) && line.starts_with(kByteOrderMark)) {
+            line.remove_prefix(kByteOrderMark.size()); // goes to the front of the output
+        }
         while (!found && !output.empty()) {
             found = Holds(TakeLine(output), line);
         }
