@@ -2,14 +2,12 @@
 
 #include "archive/outcome/jsonwriter.h"
 #include "archive/outcome/outcomenames.h"
+#include "archive/outcome/pathhash.h"
 #include "archive/outcome/shownpath.h"
 #include "archive/report/pageshell.h"
 
 #include <array>
 #include <cstdio>
-
-#define XXH_INLINE_ALL
-#include <xxhash.h>
 
 namespace recastor {
 
@@ -62,10 +60,9 @@ bool HasFilePage(const FileOutcome& outcome) {
 }
 
 std::string FilePageName(std::string_view path) {
-    std::array<char, 2 * sizeof(XXH64_hash_t) + 1> hash{};
-    static_cast<void>(
-        std::snprintf(hash.data(), hash.size(), "%016llx",
-                      static_cast<unsigned long long>(XXH3_64bits(path.data(), path.size()))));
+    std::array<char, 2 * sizeof(std::uint64_t) + 1> hash{};
+    static_cast<void>(std::snprintf(hash.data(), hash.size(), "%016llx",
+                                    static_cast<unsigned long long>(HashOfPath(path))));
     return "files/" + std::string(hash.data()) + ".html";
 }
 

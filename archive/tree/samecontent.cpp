@@ -60,8 +60,4 @@ std::uint64_t SizeOf(const FileDescriptor& file) {
     return ::fstat(file.Number(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
 
-std::uint64_t HashOfPath(std::string_view path) {
-    return XXH3_64bits(path.data(), path.size());
-}
-
 } // namespace recastor

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace recastor {
 
@@ -18,8 +17,5 @@ bool HasContentOf(const FileDescriptor& file, const std::string& fullPath);
 
 /// Bytes in an open file.
 std::uint64_t SizeOf(const FileDescriptor& file);
-
-/// A number of a path that is the same on every machine, evenly spread.
-std::uint64_t HashOfPath(std::string_view path);
 
 } // namespace recastor

@@ -1,7 +1,7 @@
 #include "archive/tree/treewalk.h"
 
+#include "archive/outcome/pathhash.h"
 #include "archive/tree/patterns.h"
-#include "archive/tree/samecontent.h"
 #include "archive/tree/systemerror.h"
 
 #include <algorithm>

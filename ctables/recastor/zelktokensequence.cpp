@@ -24,9 +24,11 @@ public:
     /// The current token; null at the end.
     const ZELKToken* Current() const { return m_current; }
     ZELKToken* TakeCurrent() {
-        return m_current != nullptr
-                   ? (m_current = nullptr, m_tokenVec.TakeToken(static_cast<int>(m_curr)).release())
-                   : nullptr;
+        if (m_current == nullptr) {
+            return nullptr;
+        }
+        m_current = nullptr;
+        return m_tokenVec.TakeToken(static_cast<int>(m_curr)).release();
     }
 
     std::size_t m_curr = 0;
