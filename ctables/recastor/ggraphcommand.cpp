@@ -1,56 +1,69 @@
 #include "ctables/recastor/ggraphcommand.h"
 
+#include <cstddef>
+#include <string_view>
+
 namespace recastor {
 
 namespace {
 
-/// `text` with each `quote` in it doubled.
-std::string Doubled(const std::string& text, char quote) {
-    std::string doubled;
+/// Room for all but the parts and a quote or two in them.
+constexpr std::size_t kFrameSize = 256;
+
+/// Appends `text` with each `quote` in it doubled.
+void AppendDoubled(std::string_view text, char quote, std::string& command) {
     for (const char c : text) {
-        doubled += c;
+        command += c;
         if (c == quote) {
-            doubled += quote;
+            command += quote;
         }
     }
-    return doubled;
 }
 
 /// The looks make up one name.
-std::string Template(const std::vector<std::string>& looks) {
-    std::string name;
+void AppendTemplate(const std::vector<std::string>& looks, std::string& command) {
+    command += "\n      TEMPLATE=[\"";
     for (const std::string& look : looks) {
-        name += Doubled(look, '"');
+        AppendDoubled(look, '"', command);
     }
-    return "\n      TEMPLATE=[\"" + name + "\"]";
+    command += "\"]";
 }
 
-std::string InlineTemplate(const std::vector<std::string>& templates) {
-    std::string list;
+void AppendInlineTemplate(const std::vector<std::string>& templates, std::string& command) {
+    command += "\n      INLINETEMPLATE=[";
+    const char* separator = "\"";
     for (const std::string& each : templates) {
-        list += list.empty() ? "\"" : " \"";
-        list += Doubled(each, '"') + '"';
+        command += separator;
+        AppendDoubled(each, '"', command);
+        command += '"';
+        separator = " \"";
     }
-    return "\n      INLINETEMPLATE=[" + list + ']';
+    command += ']';
 }
 
 } // namespace
 
 std::string GGraphCommand(const GGraphParts& parts) {
-    std::string command = "GGRAPH\n  /GRAPHDATASET NAME=\"iGraphDataset\" VARIABLES=";
+    std::string command;
+    command.reserve(kFrameSize + parts.variables.size() + parts.gpl.size());
+    command += "GGRAPH\n  /GRAPHDATASET NAME=\"iGraphDataset\" VARIABLES=";
     command += parts.variables;
     command += "\n    MISSING=LISTWISE REPORTMISSING=NO\n";
     command += "  /GRAPHSPEC SOURCE=INLINE EDITABLE=YES";
     if (!parts.viewName.empty()) {
-        command += " LABEL='" + Doubled(parts.viewName, '\'') + '\'';
+        command += " LABEL='";
+        AppendDoubled(parts.viewName, '\'', command);
+        command += '\'';
     }
     if (!parts.looks.empty()) {
-        command += Template(parts.looks);
+        AppendTemplate(parts.looks, command);
     }
     if (!parts.inlineTemplates.empty()) {
-        command += InlineTemplate(parts.inlineTemplates);
+        AppendInlineTemplate(parts.inlineTemplates, command);
     }
-    return command + ".\nBEGIN GPL" + parts.gpl + "END GPL.";
+    command += ".\nBEGIN GPL";
+    command += parts.gpl;
+    return command += "END GPL.";
 }
 
 } // namespace recastor

@@ -33,10 +33,12 @@ constexpr bool IsInvalidUnquoted(int code) {
            code == 3895;
 }
 
-/// The apostrophe or the double quote.
+/// A digit, or the point, which may also be an operator.
 constexpr bool CanStartNumber(int code) {
     return IsDigit(code) || code == '.';
 }
+
+/// The apostrophe or the double quote.
 constexpr bool IsQuote(int code) {
     return code == '\'' || code == '"';
 }

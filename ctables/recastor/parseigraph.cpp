@@ -10,6 +10,7 @@
 
 #include <iostream>
 #include <memory>
+#include <utility>
 
 namespace recastor {
 
@@ -30,14 +31,14 @@ NewForm ConvertGraph(TokenSequenceBase& tokens, ConversionListener& listener) {
     iGraphSpec& spec = *chartParser.GetSettings();
     listener.OnChart(spec);
     LabelOutput(spec);
-    const std::string gpl = gplGenerator(spec, nullptr, nullptr).getGPL();
+    std::string gpl = gplGenerator(spec, nullptr, nullptr).getGPL();
     if (!spec.errorMessage().empty()) {
         return {false, spec.errorMessage()};
     }
     doPostProcessing postProcessing(nullptr, nullptr, nullptr);
     postProcessing.process(spec);
     return {true, GGraphCommand({spec.getViewName(), spec.getUsedVarName(), spec.getChartLooks(),
-                                 postProcessing.getImmediateTemplates(), gpl})};
+                                 postProcessing.getImmediateTemplates(), std::move(gpl)})};
 }
 
 } // namespace
@@ -58,7 +59,7 @@ void ParseIgraph(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t /
 }
 
 void LabelOutput(iGraphSpec& spec) {
-    const std::string viewName = spec.getViewName();
+    const std::string& viewName = spec.getViewName();
     spec.getGGraphSpec()->SetOutputLabel(viewName.empty() ? "Interactive Graph" : viewName);
 }
 

@@ -26,6 +26,9 @@ public:
     std::unique_ptr<ZELKToken> Take(std::size_t index) { return std::move(m_tokens[index]); }
     void Append(std::unique_ptr<ZELKToken> token) { m_tokens.push_back(std::move(token)); }
 
+    /// Makes room for `count` tokens.
+    void Reserve(std::size_t count) { m_tokens.reserve(count); }
+
     /// Deletes the tokens at positions above `index`, the last one first; with -1 it empties the
     /// array and deletes none.
     void ClearTokensAfterIndex(int index);

@@ -11,6 +11,13 @@
 
 namespace recastor {
 
+namespace {
+
+/// Most commands have no more tokens.
+constexpr std::size_t kUsualCount = 64;
+
+} // namespace
+
 ZELKTokenVector::ZELKTokenVector(const char* text, bool batch, int tokenLimit) :
     m_TokVec(std::make_unique<TokenVector>()) {
     if (text == nullptr) {
@@ -18,6 +25,9 @@ ZELKTokenVector::ZELKTokenVector(const char* text, bool batch, int tokenLimit) :
     }
     MBCharPointer cursor(text);
     SkipBatchMark(cursor, batch);
+    if (tokenLimit < 1) {
+        m_TokVec->Reserve(kUsualCount);
+    }
     Tokenize(cursor, tokenLimit < 1 ? std::numeric_limits<int>::max() : tokenLimit);
 }
 

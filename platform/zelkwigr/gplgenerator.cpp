@@ -10,33 +10,34 @@ namespace {
 /// Few blocks have more bytes.
 constexpr std::size_t kUsualSize = 1'024;
 
-/// The page's size in inches, where both sides are given; empty otherwise.
-std::string PageBegin(const ChartModel& chart) {
-    if (!chart.x1Length || !chart.yLength) {
-        return {};
-    }
-    const std::string width = GplNumber(*chart.x1Length) + "in";
-    const std::string height = GplNumber(*chart.yLength) + "in";
-    return GplCall("begin", {"scale(" + width + ',' + height + ')'});
+/// Whether the page's size is written: both sides are given.
+bool HasPage(const ChartModel& chart) {
+    return chart.x1Length && chart.yLength;
+}
+
+/// The page's size in inches.
+void AppendPageBegin(const ChartModel& chart, std::string& text) {
+    AppendGplLine(
+        text, "PAGE",
+        {"begin(scale(", GplNumber(*chart.x1Length), "in,", GplNumber(*chart.yLength), "in))"});
 }
 
 } // namespace
 
 std::string WriteGpl(const ChartModel& chart, const GplVariables& variables) {
     const GplChart named(chart, variables);
-    const std::string page = PageBegin(chart);
     std::string text;
     text.reserve(kUsualSize);
     text += '\n';
-    if (!page.empty()) {
-        AppendGplLine(text, "PAGE", {page});
+    if (HasPage(chart)) {
+        AppendPageBegin(chart, text);
     }
     AppendDataLines(named, text);
     AppendCoordinateLine(named, text);
     AppendGuideLines(named, text);
     AppendScaleLines(named, text);
     AppendElementLines(named, text);
-    if (!page.empty()) {
+    if (HasPage(chart)) {
         AppendGplLine(text, "PAGE", {"end()"});
     }
     return text;

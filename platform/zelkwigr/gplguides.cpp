@@ -5,38 +5,41 @@
 #include "platform/zelkwigr/gpllines.h"
 #include "platform/zelkwigr/gpltext.h"
 
+#include <string_view>
+
 namespace recastor {
 
 namespace {
 
-std::string Label(const std::string& string) {
-    return GplCall("label", {string});
-}
-
+/// What DimensionLabel() says, as a string.
 std::string DimensionTitle(const ChartDimension& dimension) {
-    return GplString(DimensionLabel(dimension));
+    return dimension.title.empty() ? GplString(VariableLabel(dimension.variable))
+                                   : GplString(dimension.title);
 }
 
-void AppendAxis(int dimension, const std::string& title, const char* place, std::string& text) {
-    AppendGplLine(text, "GUIDE", {GplCall("axis", {GplDimensions({dimension}), title, place})});
+/// `title` is a string, `place` what follows the title with its comma.
+void AppendAxis(int dimension, std::string_view title, const char* place, std::string& text) {
+    AppendGplLine(text, "GUIDE",
+                  {"axis(dim(", std::to_string(dimension), "), label(", title, ")", place, ")"});
 }
 
 void AppendAxes(const ChartFacts& facts, std::string& text) {
     const DimensionNumbers& dimensions = facts.dimensions;
     if (facts.form == ChartForm::kPie) {
-        AppendAxis(dimensions.measure, "null()", "", text);
+        AppendGplLine(text, "GUIDE",
+                      {"axis(dim(", std::to_string(dimensions.measure), "), null())"});
     } else {
         if (facts.chart.x1) {
-            AppendAxis(dimensions.x1, Label(DimensionTitle(*facts.chart.x1)), "", text);
+            AppendAxis(dimensions.x1, DimensionTitle(*facts.chart.x1), "", text);
         }
         if (facts.chart.x2) {
-            AppendAxis(dimensions.x2, Label(DimensionTitle(*facts.chart.x2)), "", text);
+            AppendAxis(dimensions.x2, DimensionTitle(*facts.chart.x2), "", text);
         }
-        AppendAxis(dimensions.measure, Label(GplString(MeasureLabel(facts))), "", text);
+        AppendAxis(dimensions.measure, GplString(MeasureLabel(facts)), "", text);
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : facts.chart.panels) {
-        AppendAxis(panelDimension, Label(GplString(VariableLabel(panel))), "opposite()", text);
+        AppendAxis(panelDimension, GplString(VariableLabel(panel)), ", opposite()", text);
         ++panelDimension;
     }
 }
@@ -44,8 +47,13 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
 void AppendLegends(const ChartFacts& facts, std::string& text) {
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const ChartDimension& dimension = *shown.dimension;
-        const std::string title = dimension.legend ? Label(DimensionTitle(dimension)) : "null()";
-        AppendGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), ", title, ")"});
+        if (dimension.legend) {
+            AppendGplLine(
+                text, "GUIDE",
+                {"legend(aesthetic(", shown.name, "), label(", DimensionTitle(dimension), "))"});
+        } else {
+            AppendGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), null())"});
+        }
     }
 }
 
@@ -86,7 +94,8 @@ void AppendReferenceLines(const ChartFacts& facts, std::string& text) {
     for (const ReferenceLine& line : facts.chart.referenceLines) {
         const std::string position = LinePosition(facts, line);
         if (!position.empty()) {
-            const std::string label = line.label ? Label(GplString(GplNumber(line.value))) : "";
+            const std::string label =
+                line.label ? GplCall("label", {GplString(GplNumber(line.value))}) : "";
             AppendGplLine(text, "GUIDE", {GplCall("form.line", {position, label})});
         }
     }

@@ -59,11 +59,11 @@ std::string AlphaOfPercent(double percent) {
 }
 
 void AppendLayer(const Layer& layer, std::string& text) {
-    const std::string position = GplCall("position", {layer.position});
-    const std::string element =
-        GplCall(layer.kind, {position, layer.color, layer.surface, layer.size, layer.split,
-                             layer.labels, layer.shape, layer.jump, layer.missing});
-    AppendGplLine(text, "ELEMENT", {element});
+    text.append(" ELEMENT: ").append(layer.kind);
+    text.append("(position(").append(layer.position).append(")");
+    AppendGplArguments(text, {layer.color, layer.surface, layer.size, layer.split, layer.labels,
+                              layer.shape, layer.jump, layer.missing});
+    text += ")\n";
 }
 
 } // namespace recastor

@@ -33,13 +33,10 @@ bool IsCaseNumber(const std::string& dataName) {
 }
 
 std::string MakeGplName(std::string_view base) {
-    std::string name;
-    if (base.empty() || !IsLetter(base.front())) {
-        name = "v_";
-    }
-    for (const char c : base) {
-        name += IsLetter(c) || IsDigit(c) ? c : '_';
-    }
+    std::string name = base.empty() || !IsLetter(base.front()) ? "v_" : "";
+    name += base;
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return !IsLetter(c) && !IsDigit(c); }, '_');
     return name;
 }
 
@@ -51,6 +48,7 @@ Use UseOf(const ChartDimension& dimension) {
 class UseList {
 public:
     explicit UseList(const ChartFacts& facts) {
+        m_uses.reserve(kMostPositionsAndAesthetics + facts.chart.panels.size());
         AddPosition(facts);
         AddAesthetics(facts);
         for (const ChartVariable& panel : facts.chart.panels) {
@@ -67,6 +65,8 @@ public:
     const std::vector<VariableUse>& Uses() const { return m_uses; }
 
 private:
+    static constexpr std::size_t kMostPositionsAndAesthetics = 8; // and a label or two
+
     void AddPosition(const ChartFacts& facts) {
         const ChartModel& chart = facts.chart;
         if (facts.form == ChartForm::kPie) {
@@ -111,15 +111,16 @@ private:
 } // namespace
 
 std::string GplNames::Free(std::string_view base, std::string_view suffix) const {
-    const std::string name = MakeGplName(base).append(suffix);
-    std::string candidate = name;
-    const auto isCandidate = [&](const std::string& taken) {
-        return EqualWithoutCase(taken, candidate);
+    const auto isTaken = [this](const std::string& name) {
+        return std::any_of(m_taken.begin(), m_taken.end(),
+                           [&](const std::string& taken) { return EqualWithoutCase(taken, name); });
     };
-    for (int number = 2; std::any_of(m_taken.begin(), m_taken.end(), isCandidate); ++number) {
-        candidate = name + '_' + std::to_string(number);
+    const std::string name = MakeGplName(base).append(suffix);
+    std::string free = name;
+    for (int number = 2; isTaken(free); ++number) {
+        free = name + '_' + std::to_string(number);
     }
-    return candidate;
+    return free;
 }
 
 std::string GplNames::Take(std::string_view base, std::string_view suffix) {
@@ -137,6 +138,7 @@ bool NamesVariables(const ChartFacts& facts) {
 GplVariables::GplVariables(const ChartFacts& facts) {
     const UseList list(facts);
     const std::vector<VariableUse>& uses = list.Uses();
+    m_entries.reserve(uses.size());
     for (auto use = uses.begin(); use != uses.end(); ++use) {
         const auto isSame = [&](const VariableUse& other) {
             return IsSameVariable(*other.variable, *use->variable);
@@ -151,7 +153,8 @@ GplVariables::GplVariables(const ChartFacts& facts) {
         }
         const std::string& dataName = DataName(*use->variable);
         const std::string& base = IsCaseNumber(dataName) ? kCaseNumberBase : dataName;
-        Entry& entry = m_entries.emplace_back(Entry{dataName, {}, {}});
+        Entry& entry = m_entries.emplace_back();
+        entry.dataName = dataName;
         const bool isScale = isMeantAs(Use::kScale);
         if (isScale) {
             entry.scaleName = m_names.Take(base);

@@ -5,6 +5,7 @@
 #include "platform/zelkwigr/gpltext.h"
 
 #include <algorithm>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -21,8 +22,9 @@ struct Scale {
 };
 
 void AppendScale(const std::string& place, const Scale& scale, std::string& text) {
-    const auto call = GplCall(scale.function, {place, scale.first, scale.second, scale.third});
-    AppendGplLine(text, "SCALE", {call});
+    text.append(" SCALE: ").append(scale.function).append("(").append(place);
+    AppendGplArguments(text, {scale.first, scale.second, scale.third});
+    text += ")\n";
 }
 
 Scale CategoryScale(const ChartModel& chart, const ChartVariable& variable) {
@@ -112,28 +114,33 @@ struct DimensionScale {
     Scale scale;
 };
 
-/// The scales of the dimensions that axes and panels take up, by their numbers.
+/// The scales of the dimensions that axes and panels take up, by their numbers. Most have none.
 std::vector<DimensionScale> DimensionScales(const ChartFacts& facts) {
     const ChartModel& chart = facts.chart;
     const DimensionNumbers& dimensions = facts.dimensions;
     std::vector<DimensionScale> scales;
+    const auto add = [&scales](int dimension, Scale scale) {
+        if (scale.function != nullptr) {
+            scales.push_back({dimension, std::move(scale)});
+        }
+    };
     if (facts.form == ChartForm::kPie) {
-        scales.push_back({dimensions.measure, PieScale(facts)});
+        add(dimensions.measure, PieScale(facts));
     } else {
-        scales.push_back({dimensions.measure, YScale(facts)});
+        add(dimensions.measure, YScale(facts));
         if (chart.x1) {
-            scales.push_back({dimensions.x1, ScaleOf(chart, *chart.x1)});
+            add(dimensions.x1, ScaleOf(chart, *chart.x1));
         }
         if (chart.x2) {
-            scales.push_back({dimensions.x2, ScaleOf(chart, *chart.x2)});
+            add(dimensions.x2, ScaleOf(chart, *chart.x2));
         }
         if (facts.form == ChartForm::kClustered) {
-            scales.push_back({dimensions.cluster, ScaleOf(chart, *facts.cluster)});
+            add(dimensions.cluster, ScaleOf(chart, *facts.cluster));
         }
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : chart.panels) {
-        scales.push_back({panelDimension, CategoryScale(chart, panel)});
+        add(panelDimension, CategoryScale(chart, panel));
         ++panelDimension;
     }
     std::sort(scales.begin(), scales.end(),
@@ -146,9 +153,7 @@ std::vector<DimensionScale> DimensionScales(const ChartFacts& facts) {
 void AppendScaleLines(const GplChart& chart, std::string& text) {
     const ChartFacts& facts = chart.Facts();
     for (const auto& [dimension, scale] : DimensionScales(facts)) {
-        if (scale.function != nullptr) {
-            AppendScale(GplDimensions({dimension}), scale, text);
-        }
+        AppendScale(GplCall("dim", {std::to_string(dimension)}), scale, text);
     }
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const Scale scale = ScaleOf(facts.chart, *shown.dimension);

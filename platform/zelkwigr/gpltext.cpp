@@ -68,6 +68,15 @@ std::string GplCall(std::string_view name, std::initializer_list<std::string_vie
     return call += ')';
 }
 
+void AppendGplArguments(std::string& text, std::initializer_list<std::string_view> arguments) {
+    for (const std::string_view argument : arguments) {
+        if (!argument.empty()) {
+            text += ", ";
+            text += argument;
+        }
+    }
+}
+
 std::string GplDimensions(const std::vector<int>& dimensions) {
     std::string call = "dim(";
     const char* separator = "";

@@ -21,6 +21,9 @@ std::string GplString(const std::vector<std::string>& lines);
 /// `name(a, b, c)`; an argument that is empty is left out.
 std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments);
 
+/// Appends a function's further arguments, each behind a comma; one that is empty is left out.
+void AppendGplArguments(std::string& text, std::initializer_list<std::string_view> arguments);
+
 /// `dim(1,3)`.
 std::string GplDimensions(const std::vector<int>& dimensions);
 

@@ -20,12 +20,12 @@ public:
     GraphSpec* getGGraphSpec() { return &m_graphSpec; }
 
     /// The chart's title in lists; empty when it has none.
-    std::string getViewName() const { return m_chart.viewName; }
+    const std::string& getViewName() const { return m_chart.viewName; }
     /// The variables that the data must hold, one blank between.
     std::string getUsedVarName() const { return m_variables.DataNames(); }
-    std::vector<std::string> getChartLooks() const { return m_chart.chartLooks; }
+    const std::vector<std::string>& getChartLooks() const { return m_chart.chartLooks; }
     /// Why there is no GPL for this chart: a comment command. Empty when there is.
-    std::string errorMessage() const { return m_errorMessage; }
+    const std::string& errorMessage() const { return m_errorMessage; }
 
     const ChartModel& Chart() const { return m_chart; }
     /// The variables that the GPL names; none when there is no GPL.
