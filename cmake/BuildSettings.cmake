@@ -28,7 +28,7 @@ endif()
 
 if(RECASTOR_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    add_compile_options(${sanitizers})
+    add_compile_options(${sanitizers} -g1) # reports tell lines, and more takes long to write
     add_link_options(${sanitizers})
 endif()
 

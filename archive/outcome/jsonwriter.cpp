@@ -10,8 +10,6 @@ namespace recastor {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-
 /// Whether a byte stands for itself in a string.
 bool IsPlain(char c) {
     return c >= ' ' && c != '"' && c != '\\' && c != '<' && c != '\x7F';

@@ -9,8 +9,6 @@ namespace recastor {
 
 namespace {
 
-constexpr std::string_view kReplacement = "\xEF\xBF\xBD"; // U+FFFD
-
 /// The bytes that may come second, by the first: RFC 3629's table of well-formed sequences.
 struct Row {
     unsigned char firstFrom;

@@ -7,6 +7,9 @@
 
 namespace recastor {
 
+/// U+FFFD, shown for what has no meaning.
+inline constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+
 /// Length in bytes of the UTF-8 character that `text` begins with; 0 when it is none.
 std::size_t Utf8Length(std::string_view text);
 

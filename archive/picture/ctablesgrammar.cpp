@@ -59,10 +59,6 @@ bool IsFunction(std::string_view word, char kind) {
     return IsSuited(word, kind) || (word.starts_with('U') && IsSuited(word.substr(1), kind));
 }
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// `F8.2`, `DOLLAR10`: letters, a width, perhaps decimals.
 bool IsFormat(std::string_view word) {
     const std::size_t width = word.find_first_of("0123456789");

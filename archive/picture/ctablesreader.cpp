@@ -14,10 +14,6 @@ constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::array<std::string_view, 13> kReserved{"ALL", "AND", "BY",  "EQ", "GE", "GT",  "LE",
                                                      "LT",  "NE",  "NOT", "OR", "TO", "WITH"};
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool IsNameCharacter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || IsDigit(c) ||
            std::string_view("@#$_.").find(c) != std::string_view::npos ||

@@ -6,6 +6,11 @@
 
 namespace recastor {
 
+/// Of ASCII.
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// A place in a text. What is asked for is looked for behind blanks and line ends.
 class CtablesReader {
 public:

@@ -69,6 +69,13 @@ void OutputSequence::Fuse() {
     }
 }
 
+void OutputSequence::FuseShortLine() {
+    constexpr std::size_t kLineLength = 79;
+    if (Length() < kLineLength) {
+        Fuse();
+    }
+}
+
 std::string OutputSequence::Print(unsigned width, unsigned indent) const {
     if (IsEmpty()) {
         return {};

@@ -39,6 +39,8 @@ public:
     std::size_t Length() const;
     /// Makes one piece of the current line; does nothing when that is empty.
     void Fuse();
+    /// The same when the line is shorter than those that are written; a longer one may be broken.
+    void FuseShortLine();
     /// The pieces as text in lines of at most `width` bytes, but for a piece that is longer. Every
     /// line but the first begins with `indent` blanks; `indent` is below `width`. No line begins
     /// with a lone comma: the piece before it goes to the new line too.

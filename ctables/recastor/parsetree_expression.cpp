@@ -9,14 +9,6 @@ namespace recastor {
 
 namespace {
 
-/// Keeps what fits into a line together.
-void FuseShortLine(OutputSequence& sequence) {
-    constexpr std::size_t kLineLength = 79;
-    if (sequence.Length() < kLineLength) {
-        sequence.Fuse();
-    }
-}
-
 /// Writes the operands of a stacking or nesting with their operator between them.
 template <typename ExpressOperand>
 bool ExpressOperation(const TbTrParseNode& operation, bool parenthesised,
@@ -94,7 +86,7 @@ bool ParseTree::ExpressSubExpression(const TbTrParseNode& expression, const TbTr
             return false;
         }
     }
-    FuseShortLine(output);
+    output.FuseShortLine();
     return true;
 }
 
@@ -127,7 +119,7 @@ bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTr
         output.PushBack("[", false);
         output.PushBack(statistics);
         output.PushBack("]", false);
-        FuseShortLine(output);
+        output.FuseShortLine();
     }
     return true;
 }

@@ -18,9 +18,6 @@ namespace recastor {
 
 namespace {
 
-/// Sequences that are shorter are kept on one line.
-constexpr std::size_t kLineLength = 79;
-
 struct BaseWord {
     PercentageBase base;
     std::string_view word;
@@ -32,12 +29,6 @@ constexpr std::array<BaseWord, 4> gBaseWords{{
     {TBTR_LAYERPCT, "LAYERPCT."},
     {TBTR_TABPCT, "TABLEPCT."},
 }};
-
-void FuseShortLine(OutputSequence& sequence) {
-    if (sequence.Length() < kLineLength) {
-        sequence.Fuse();
-    }
-}
 
 struct TermVariable {
     const TbTrParseNode* node;
@@ -164,7 +155,7 @@ void AppendStatistic(const Statistic& statistic, const TbTrParseNode* argument,
             list.PushBack(TokenOf(*format).AsString(false), false);
         }
     }
-    FuseShortLine(list);
+    list.FuseShortLine();
 }
 
 /// The two lists of a magnet: the statistics of the cells and those of its totals.
@@ -263,7 +254,7 @@ bool ParseTree::ExpressFunctions(const TbTrParseNode* statistics, const TbTrPars
         output.PushBack("[", false);
         output.PushBack(lists.totals);
         output.PushBack("]", false);
-        FuseShortLine(output);
+        output.FuseShortLine();
     }
     return true;
 }

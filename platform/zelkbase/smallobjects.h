@@ -1,6 +1,7 @@
 /// Memory for small objects that are made and dropped by the thousand: tokens and tree nodes.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <new>
@@ -16,7 +17,7 @@ public:
 
     static void* Allocate(std::size_t size) {
         if (size == 0 || size > kLargest || kUseHeap) {
-            return ::operator new(size);
+            return ::operator new(std::max<std::size_t>(size, 1));
         }
         Block*& first = FreeList(size);
         if (first == nullptr) {
