@@ -6,14 +6,11 @@
 #include "ctables/recastor/zelktokensequence.h"
 #include "platform/zelkbase/zelkassert.h"
 
-#include <string_view>
 #include <utility>
 
 namespace recastor {
 
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Calls `examine` with the line's text, a byte-order mark at the start of the file left out. An
 /// error's line becomes that of the input file.
@@ -36,8 +33,7 @@ CommandStream::CommandStream(std::istream& input, bool batch) : m_input(input), 
 bool CommandStream::NextCommand() {
     m_command.clear();
     m_firstLine = 0;
-    m_commandKind = kOrdinaryCommand;
-    m_kindKnown = false;
+    m_opening = {};
     bool done = false;
     while (!done) {
         FillLineBuffer(m_command.empty());
@@ -47,11 +43,11 @@ bool CommandStream::NextCommand() {
         if (m_command.empty()) {
             m_firstLine = m_lineNumber;
         }
-        const bool opensCommand = !m_kindKnown;
+        const bool opensCommand = !m_opening.holdsToken;
         if (opensCommand) {
             ClassifyLine();
         }
-        if (m_commandKind == kInlineDataCommand) {
+        if (m_opening.kind == kInlineDataCommand) {
             done = GatherDataLine(opensCommand);
         } else {
             done = m_batch ? GatherBatchLine() : GatherInteractiveLine();
@@ -65,7 +61,7 @@ std::int64_t CommandStream::FirstLineNumber() const {
 }
 
 int CommandStream::TypeOfCommand() const {
-    return m_command.empty() ? kOrdinaryCommand : m_commandKind;
+    return m_command.empty() ? kOrdinaryCommand : m_opening.kind;
 }
 
 void CommandStream::FillLineBuffer(bool skipBlankLines) {
@@ -111,17 +107,15 @@ void CommandStream::AppendFromBuffer(int ixEnd) {
 void CommandStream::ClassifyLine() {
     try {
         ExamineLine(m_lineBuffer, m_lineNumber, [this](const std::string& text, std::size_t) {
-            const Opening opening = ReadOpening(text, m_batch);
-            m_commandKind = opening.kind;
-            m_kindKnown = opening.holdsToken;
+            m_opening = ReadOpening(text, m_batch);
         });
+        m_opening.isWhole = m_opening.isWhole && m_command.empty();
     } catch (const ParseError& error) {
         // The search for the command's end tells whether the quote is really unclosed.
         if (error.GetErrorID() != ParseError::kUnclosedLiteral) {
             throw;
         }
-        m_commandKind = kOrdinaryCommand;
-        m_kindKnown = true;
+        m_opening = {kOrdinaryCommand, true};
     }
 }
 
@@ -176,7 +170,8 @@ bool CommandStream::EndBeforeTrailingBlankLines() {
 
 /// Index in `line` of the period that ends the command; -1 when it goes on.
 int CommandStream::FindEnd(const std::string& line, std::int64_t lineNumber) const {
-    const bool commentLike = m_commandKind == kCommentCommand || m_commandKind == kDocumentCommand;
+    const bool commentLike =
+        m_opening.kind == kCommentCommand || m_opening.kind == kDocumentCommand;
     return ExamineLine(line, lineNumber, [&](const std::string& text, std::size_t skipped) {
         const int ixEnd = ZELKTokenSequence::FindEndOfCommand(text, commentLike);
         return ixEnd < 0 ? ixEnd : ixEnd + static_cast<int>(skipped);

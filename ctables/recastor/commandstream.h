@@ -2,13 +2,18 @@
 #pragma once
 
 #include "ctables/recastor/linereader.h"
+#include "ctables/recastor/opening.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <istream>
 #include <string>
+#include <string_view>
 
 namespace recastor {
+
+/// May stand in front of a file in UTF-8.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// Gathers the physical lines of one command at a time. In interactive mode a command ends with
 /// the period that ends a line; in batch mode with the next line that does not begin with a blank;
@@ -29,6 +34,8 @@ public:
     std::int64_t FirstLineNumber() const;
     /// One of CommandKind; 0 when no command is left.
     int TypeOfCommand() const;
+    /// What its first line told.
+    const Opening& OpeningOfFirstLine() const { return m_opening; }
 
 private:
     void FillLineBuffer(bool skipBlankLines);
@@ -45,11 +52,10 @@ private:
     bool m_atEnd = false;
     std::int64_t m_lineNumber = 0; ///< physical lines read so far
     std::int64_t m_firstLine = 0;
-    std::int32_t m_commandKind = 0;
+    Opening m_opening; ///< of the first line that holds a token; no text is whole but the first's
     std::string m_command;
     std::string m_lineBuffer; ///< the line in hand, not yet moved into the command
 
-    bool m_kindKnown = false;   ///< a line of the command held a token
     std::size_t m_textLine = 0; ///< where the command's last line with more than blanks begins
     std::int64_t m_textLineNumber = 0;
 };

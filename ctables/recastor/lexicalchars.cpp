@@ -7,8 +7,6 @@ namespace recastor {
 namespace {
 
 constexpr CharSet gInComment = CharSet::AllBut("\n\r*");
-constexpr CharSet gInApostrophes = CharSet::AllBut("\n\r'");
-constexpr CharSet gInDoubleQuotes = CharSet::AllBut("\n\r\"");
 
 } // namespace
 

@@ -43,11 +43,15 @@ constexpr bool IsQuote(int code) {
     return code == '\'' || code == '"';
 }
 
+inline constexpr CharSet gWordStarts = CharSet::Where(IsExtendedAlpha);
 /// The characters of a word behind its first.
 inline constexpr CharSet gWordChars =
     CharSet::Where([](int code) { return IsExtendedAlpha(code) || IsWordBodyOnly(code); });
 inline constexpr CharSet gDigits = CharSet::Where(IsDigit);
 inline constexpr CharSet gBlanks = CharSet::Of(" \t");
+/// What a quoted segment goes on with.
+inline constexpr CharSet gInApostrophes = CharSet::AllBut("\n\r'");
+inline constexpr CharSet gInDoubleQuotes = CharSet::AllBut("\n\r\"");
 /// What neither ends a command nor begins what may hide a period.
 inline constexpr CharSet gPlain = CharSet::AllBut(".\n\r'\"/");
 

@@ -16,7 +16,8 @@ const char* FindByte(const char* begin, const char* end, char byte) {
 } // namespace
 
 LineReader::LineReader(std::istream& input) :
-    m_input(input), m_position(m_block.data()), m_end(m_position), m_lineFeed(m_position) {}
+    m_input(input), m_position(m_block.data()), m_end(m_position), m_lineFeed(m_position),
+    m_carriageReturn(m_position) {}
 
 bool LineReader::ReadLine(std::string& line) {
     line.clear();
@@ -45,16 +46,19 @@ bool LineReader::Refill() {
     m_position = m_block.data();
     m_end = m_position + std::max<std::streamsize>(count, 0);
     m_lineFeed = FindByte(m_position, m_end, '\n');
+    m_carriageReturn = FindByte(m_position, m_end, '\r');
     return m_position != m_end;
 }
 
 /// The line feed or carriage return that ends the line at hand; m_end when the block holds none.
 const char* LineReader::FindLineBreak() {
-    // Remembered, since lines that end in a carriage return come many to a line feed.
     if (m_lineFeed < m_position) {
         m_lineFeed = FindByte(m_position, m_end, '\n');
     }
-    return FindByte(m_position, m_lineFeed, '\r');
+    if (m_carriageReturn < m_position) {
+        m_carriageReturn = FindByte(m_position, m_end, '\r');
+    }
+    return std::min(m_lineFeed, m_carriageReturn);
 }
 
 } // namespace recastor

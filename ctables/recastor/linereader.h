@@ -27,7 +27,9 @@ private:
     std::array<char, 65536> m_block{};
     const char* m_position;
     const char* m_end;
-    const char* m_lineFeed; ///< the first line feed at or behind m_position; m_end when none
+    // Remembered, since most files end all their lines in only one of the two.
+    const char* m_lineFeed;       ///< the first one at or behind m_position; m_end when none
+    const char* m_carriageReturn; ///< the same
 };
 
 } // namespace recastor

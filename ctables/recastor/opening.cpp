@@ -44,7 +44,7 @@ std::optional<Opening> QuickOpening(std::string_view text, bool batch) {
         }
         SwitchCommandState(state, UpperCased(tokens->secondWord).Text());
     }
-    return Opening{KindOfCommand(state), true, Abbreviation(first.Text())};
+    return Opening{KindOfCommand(state), true, Abbreviation(first.Text()), tokens->areWhole};
 }
 
 } // namespace

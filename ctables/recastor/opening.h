@@ -12,6 +12,7 @@ struct Opening {
     /// Of the first token, a word upper-cased, a literal unquoted; of an asterisk for every
     /// operator that begins with one.
     std::uint32_t abbreviation = 0;
+    bool isWhole = false; ///< surely the same for every text that begins with this one
 };
 
 /// Reads no further than the second token. `batch`: batch-mode syntax rules. Throws ParseError.

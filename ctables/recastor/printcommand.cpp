@@ -28,21 +28,23 @@ void PrintCommand(const std::string& text, std::ostream& out, unsigned indent) {
     if (body.back() == '\n') {
         body.remove_suffix(1);
     }
-    std::string_view lineEnd;
-    if (body.ends_with('\r')) {
-        lineEnd = body.substr(body.size() - 1);
+    const bool crLf = body.ends_with('\r');
+    if (crLf) {
         body.remove_suffix(1);
     }
     out.write(body.data(), static_cast<std::streamsize>(body.size()));
-    std::string end = body.ends_with('.') ? "" : ".";
-    end.append(lineEnd).append(1, '\n');
+    std::string_view end = crLf ? ".\r\n" : ".\n";
+    if (body.ends_with('.')) {
+        end.remove_prefix(1);
+    }
     out.write(end.data(), static_cast<std::streamsize>(end.size())).flush();
 }
 
-std::string CommentCommand(std::string text) {
-    std::string comment = "*";
-    const auto breaks = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
-    comment.reserve(text.size() + 2 * breaks + 1);
+std::string CommentCommand(const std::string& text) {
+    constexpr std::size_t kShortLine = 16; // few commands have shorter ones on average
+    std::string comment;
+    comment.reserve(text.size() + 2 * (text.size() / kShortLine) + 1);
+    comment += '*';
     std::string_view rest(text);
     for (auto end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
         comment.append(rest.substr(0, end + 1)).append(" *");

@@ -19,6 +19,6 @@ void PrintCommand(const std::string& text, std::ostream& out, unsigned indent);
 
 /// The text of a comment command that shows `text`: an asterisk in front, and every line feed,
 /// the last one included, followed by a blank and an asterisk.
-std::string CommentCommand(std::string text);
+std::string CommentCommand(const std::string& text);
 
 } // namespace recastor

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -79,18 +80,57 @@ bool IsHigh(char c) {
     return static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// Neighbouring characters, which are asked about all at once. What a comparison answers is such a
+/// value as well: every bit of a yes is set, none of a no.
+using Characters [[gnu::vector_size(16)]] = signed char;
+
+Characters Load(const char* first) {
+    Characters characters;
+    std::memcpy(&characters, first, sizeof characters);
+    return characters;
+}
+
+/// A control character or not ASCII: the bytes there are negative.
+Characters IsControlOrHigh(Characters c) {
+    return (c < ' ') | (c == 0x7F);
+}
+Characters IsQuoteMark(Characters c) {
+    return (c == '\'') | (c == '"');
+}
+Characters OpensComment(Characters c, Characters next) {
+    return (c == '/') & (next == '*');
+}
+/// A digit or a point that an exponent or a hexadecimal digit may follow.
+Characters MayBeOddNumber(Characters c, Characters next) {
+    const Characters lowerNext = next | ('a' - 'A');
+    return (((c >= '0') & (c <= '9')) | (c == '.')) & ((lowerNext == 'e') | (lowerNext == 'x'));
+}
+
+/// Whether the answer is yes for any character of the text, which is not empty, and the one behind
+/// it. The last character only stands behind.
+template <typename Question>
+bool IsAnywhere(std::string_view text, const Question& question) {
+    constexpr std::size_t kWidth = sizeof(Characters);
+    std::array<char, kWidth + 1> padded{};
+    if (text.size() < padded.size()) {
+        padded.fill(' ');
+        text.copy(padded.data(), text.size() - 1);
+        text = {padded.data(), padded.size()};
+    }
+    const char* const last = text.data() + text.size() - padded.size();
+    Characters answer = question(Load(last), Load(last + 1));
+    for (const char* place = text.data(); place < last; place += kWidth) {
+        answer |= question(Load(place), Load(place + 1));
+    }
+    return std::bit_cast<std::array<std::uint64_t, 2>>(answer) != std::array<std::uint64_t, 2>{};
+}
+
 /// Behind the quote that closes the segment which opens at `quote`, when its line closes it with
 /// nothing but ASCII before; else null.
 const char* BehindSegment(const char* quote, const char* end) {
-    for (const char* place = quote + 1; place != end; ++place) {
-        if (*place == *quote) {
-            return place + 1;
-        }
-        if (*place == '\n' || *place == '\r' || *place == '\0' || IsHigh(*place)) {
-            return nullptr;
-        }
-    }
-    return nullptr;
+    const char* const place =
+        Skip(quote + 1, end, *quote == '"' ? gInDoubleQuotes : gInApostrophes);
+    return place != end && *place == *quote ? place + 1 : nullptr;
 }
 
 /// Behind a literal of one segment that nothing is joined to; null for others.
@@ -144,9 +184,8 @@ bool IsLineEnd(const char* place, const char* end) {
     return end - place == 1 && *place == '\n';
 }
 
-} // namespace
-
-std::optional<int> QuickEndOfCommand(std::string_view line) {
+/// The end of a command on a line that may hold quotes.
+std::optional<int> EndOutsideQuotes(std::string_view line) {
     const char* const end = line.data() + line.size();
     for (const char* place = Skip(line.data(), end, gPlain); place != end;
          place = Skip(place, end, gPlain)) {
@@ -181,24 +220,64 @@ std::optional<int> QuickEndOfCommand(std::string_view line) {
     return std::nullopt;
 }
 
-std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
+/// Where the period stands that is the last thing on the line, which ends in its only line feed; -1
+/// when there is none.
+int PeriodAtEnd(std::string_view line) {
     const char* const begin = line.data();
-    const char* last = begin + line.size();
-    if (line.empty() || *--last != '\n') {
-        return std::nullopt;
-    }
+    const char* last = begin + line.size() - 1;
     last -= last != begin && last[-1] == '\r' ? 1 : 0;
-    const auto odd = [](char c) { return IsHigh(c) || c == '\0' || c == '\r' || c == '\n'; };
-    if (std::any_of(begin, last, odd)) {
-        return std::nullopt;
-    }
     while (last != begin && gBlanks.HasAscii(last[-1])) {
         --last;
     }
     return last != begin && last[-1] == '.' ? static_cast<int>(last - 1 - begin) : -1;
 }
 
+/// The line, its characters and one more behind the last; `line` ends in a line feed.
+std::string_view TextAndOneMore(std::string_view line) {
+    return line.substr(0, line.size() - (line.ends_with("\r\n") ? 1 : 0));
+}
+
+/// Whether the text needs a closer look for a character that no token begins with, or for one that
+/// begins what may be faulty.
+bool MayHoldFaultyToken(std::string_view text) {
+    return IsAnywhere(text, [](Characters c, Characters next) {
+        const Characters isBlank = (c == '\t') | (c == '\n') | (c == '\r');
+        const Characters isOddSign =
+            (c == '!') | (c == '&') | (c == '\\') | (c == '^') | (c == '`');
+        return (IsControlOrHigh(c) & ~isBlank) | IsQuoteMark(c) | isOddSign |
+               OpensComment(c, next) | MayBeOddNumber(c, next);
+    });
+}
+
+/// Fewer digits than a number may have that needs no closer look.
+constexpr std::size_t kFewCharacters = 300;
+
+} // namespace
+
+std::optional<int> QuickEndOfCommand(std::string_view line) {
+    if (!line.ends_with('\n')) {
+        return std::nullopt;
+    }
+    const bool isPlain = !IsAnywhere(TextAndOneMore(line), [](Characters c, Characters next) {
+        return IsQuoteMark(c) | OpensComment(c, next) | (IsControlOrHigh(c) & (c != '\t'));
+    });
+    return isPlain ? PeriodAtEnd(line) : EndOutsideQuotes(line);
+}
+
+std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
+    const auto isOdd = [](Characters c, Characters /*next*/) {
+        return IsControlOrHigh(c) & (c != '\t');
+    };
+    if (!line.ends_with('\n') || IsAnywhere(TextAndOneMore(line), isOdd)) {
+        return std::nullopt;
+    }
+    return PeriodAtEnd(line);
+}
+
 bool QuickCheckTokens(std::string_view text) {
+    if (text.size() <= kFewCharacters && text.ends_with('\n') && !MayHoldFaultyToken(text)) {
+        return true;
+    }
     const char* const end = text.data() + text.size();
     const char* place = Skip(text.data(), end, gSpace);
     while (place != end) {
@@ -222,11 +301,11 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
         return std::nullopt;
     }
     if (*first == '*') {
-        return QuickTokens{{first, 1}, {}};
+        return QuickTokens{{first, 1}, {}, true};
     }
     const char* const behind = BehindToken(first, end);
     const char* const second = Skip(behind, end, gSpace);
-    QuickTokens tokens{{first, behind}, {}};
+    QuickTokens tokens{{first, behind}, {}, false};
     if (second == end) {
         return tokens;
     }
@@ -234,6 +313,7 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
     if (behindSecond == nullptr || (behindSecond != end && IsHigh(*behindSecond))) {
         return std::nullopt;
     }
+    tokens.areWhole = StartAt(second) != Start::kQuote; // the next line may join another segment
     if (StartAt(second) == Start::kWord) {
         tokens.secondWord = {second, behindSecond};
     }

@@ -23,6 +23,7 @@ bool QuickCheckTokens(std::string_view text);
 struct QuickTokens {
     std::string_view first;      ///< a word or an asterisk
     std::string_view secondWord; ///< empty when the second token is no word or there is none
+    bool areWhole = false;       ///< what stands behind the text cannot change or add one
 };
 
 /// The first tokens of a text that begins with a word or an asterisk and whose second token is

@@ -19,13 +19,10 @@
 #include <iostream>
 #include <memory>
 #include <string>
-#include <string_view>
 
 namespace recastor {
 
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// A command that is converted: how it is recognised, framed and done.
 struct Conversion {
@@ -60,9 +57,12 @@ ReportedKind KindOfCopied(int kind) {
     return kinds.at(static_cast<std::size_t>(kind));
 }
 
-void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
+/// Converts or copies the current command of the stream, whose text is `text`.
+void ConvertOrCopy(const CommandStream& commands, const std::string& text, bool batch,
                    std::ostream& output, ConversionListener& listener) {
-    const Opening opening = ReadOpening(text, batch);
+    const std::int64_t lineOffset = commands.FirstLineNumber() - 1;
+    const Opening& known = commands.OpeningOfFirstLine();
+    const Opening opening = known.isWhole ? known : ReadOpening(text, batch);
     const bool ordinary = opening.kind == kOrdinaryCommand;
     const Conversion* const conversion = ordinary ? FindConversion(opening.abbreviation) : nullptr;
     listener.OnCommand(conversion != nullptr ? conversion->kind : KindOfCopied(opening.kind),
@@ -82,12 +82,12 @@ void ConvertOrCopy(const std::string& text, bool batch, std::int64_t lineOffset,
 }
 
 /// The same; the line of an error in the command's tokens becomes that of the input file.
-void ConvertOrCopyAt(std::int64_t firstLine, const std::string& text, bool batch,
-                     std::ostream& output, ConversionListener& listener) {
+void ConvertOrCopyAtItsLine(const CommandStream& commands, const std::string& text, bool batch,
+                            std::ostream& output, ConversionListener& listener) {
     try {
-        ConvertOrCopy(text, batch, firstLine - 1, output, listener);
+        ConvertOrCopy(commands, text, batch, output, listener);
     } catch (ParseError& error) {
-        error.IncrementLine(static_cast<long>(firstLine - 1));
+        error.IncrementLine(static_cast<long>(commands.FirstLineNumber() - 1));
         throw;
     }
 }
@@ -101,7 +101,7 @@ void ConvertOrCopyFirst(const CommandStream& commands, bool batch, std::ostream&
         output << kByteOrderMark;
         text.erase(0, kByteOrderMark.size());
     }
-    ConvertOrCopyAt(commands.FirstLineNumber(), text, batch, output, listener);
+    ConvertOrCopyAtItsLine(commands, text, batch, output, listener);
 }
 
 /// Parses the classifier's command; when that fails an error is recorded.
@@ -136,8 +136,7 @@ bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output,
             ConvertOrCopyFirst(commands, batch, output, listener);
         }
         while (!commands.NextCommand()) {
-            ConvertOrCopyAt(commands.FirstLineNumber(), commands.CommandString(), batch, output,
-                            listener);
+            ConvertOrCopyAtItsLine(commands, commands.CommandString(), batch, output, listener);
         }
         return true;
     } catch (const ParseError& error) {

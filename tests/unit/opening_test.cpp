@@ -50,6 +50,17 @@ TEST_F(OpeningOfCommand, IsToldByTheFirstTokens) {
     }
 }
 
+TEST_F(OpeningOfCommand, IsWholeWhenNothingBehindTheTextCanChangeIt) {
+    for (const std::string text : {"LIST a\n", "LIST / a\n", "BEGIN DATA.\n", "* a\n"}) {
+        SCOPED_TRACE(text);
+        EXPECT_TRUE(ReadOpening(text, false).isWhole);
+    }
+    for (const std::string text : {"LIST\n", "BEGIN\n", "TITLE 'a'\n", ",\n", "t\xC3\xA4 a\n"}) {
+        SCOPED_TRACE(text);
+        EXPECT_FALSE(ReadOpening(text, false).isWhole);
+    }
+}
+
 TEST_F(OpeningOfCommand, MayHoldNoToken) {
     for (const std::string text : {"", "\n", ",\n", "/* a\n"}) {
         SCOPED_TRACE(text);
