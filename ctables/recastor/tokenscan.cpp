@@ -297,7 +297,7 @@ bool ScanOperator(MBCharPointer& cursor, TokenSequenceBase::OperatorCode& code) 
 }
 
 bool ScanWord(MBCharPointer& cursor) {
-    if (!IsExtendedAlpha(cursor.Code())) {
+    if (!gWordStarts.Has(cursor.Code())) {
         return false;
     }
     cursor.SkipWhile(gWordChars);

@@ -157,7 +157,7 @@ void ZELKStringToken::Print(std::ostream& out, int indent) const {
 }
 
 const std::string& ZELKStringToken::AsString(bool raw) const {
-    return raw ? ZELKToken::AsString(raw) : m_value;
+    return raw || m_value.empty() ? ZELKToken::AsString(raw) : m_value;
 }
 
 ZELKOperatorToken::ZELKOperatorToken(const char* first, const char* end, int line, int column,

@@ -70,6 +70,7 @@ private:
 /// A word: a name, a keyword or, with an operator code, a reserved word.
 class ZELKStringToken : public ZELKToken {
 public:
+    /// `upperCased` may be empty when the raw text is upper-cased already.
     ZELKStringToken(const char* first, const char* end, int line, int column,
                     std::string upperCased, OperatorCode code);
     TokenType Type() const override { return TokenSequenceBase::kString; }
@@ -79,7 +80,7 @@ public:
     OperatorCode OpCode() const override { return m_code; }
 
 private:
-    std::string m_value;
+    std::string m_value; ///< empty when it is the raw text
     OperatorCode m_code;
 };
 

@@ -5,6 +5,7 @@
 #include "ctables/recastor/zelktokenvector.h"
 #include "platform/zelkmb/zelkmb.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,10 +15,18 @@ namespace recastor {
 
 namespace {
 
-std::string UpperCased(const MBCharPointer& start, const MBCharPointer& end) {
-    std::string text(start.Pointer(), end.Pointer());
+/// Upper-cased; empty when the word is so already, as most keywords are.
+std::string UpperCased(std::string_view word) {
+    if (std::none_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; })) {
+        return {};
+    }
+    std::string text(word);
     ZELKMBstrupr_A(text.data());
     return text;
+}
+
+std::string_view TextBetween(const MBCharPointer& start, const MBCharPointer& end) {
+    return {start.Pointer(), end.Pointer()};
 }
 
 } // namespace
@@ -39,8 +48,8 @@ bool ZELKTokenVector::MatchMacroToken(MBCharPointer& cursor, int line) {
         return false;
     }
     m_TokVec->Append(std::make_unique<ZELKStringToken>(
-        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(), UpperCased(start, cursor),
-        TokenSequenceBase::kNotOperator));
+        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(),
+        UpperCased(TextBetween(start, cursor)), TokenSequenceBase::kNotOperator));
     return true;
 }
 
@@ -73,11 +82,10 @@ bool ZELKTokenVector::MatchWord(MBCharPointer& cursor, int line) {
     if (!ScanWord(cursor)) {
         return false;
     }
-    const std::string_view word(start.Pointer(),
-                                static_cast<std::size_t>(cursor.Pointer() - start.Pointer()));
-    m_TokVec->Append(std::make_unique<ZELKStringToken>(
-        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(), UpperCased(start, cursor),
-        ReservedWordCode(word)));
+    const std::string_view word = TextBetween(start, cursor);
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(start.Pointer(), cursor.Pointer(), line,
+                                                       start.CharacterNumber(), UpperCased(word),
+                                                       ReservedWordCode(word)));
     return true;
 }
 

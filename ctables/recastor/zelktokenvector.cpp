@@ -60,7 +60,7 @@ void ZELKTokenVector::Tokenize(MBCharPointer& cursor, int tokenLimit) {
 bool ZELKTokenVector::MatchAny(MBCharPointer& cursor, int line) {
     // No two kinds of token begin alike, but for a number and the operator that a point is.
     const int code = cursor.Code();
-    if (IsExtendedAlpha(code)) {
+    if (gWordStarts.Has(code)) {
         return MatchWord(cursor, line);
     }
     if (IsQuote(code)) {
