@@ -22,6 +22,7 @@ struct FunctionInfo {
     std::string_view fOldName;
     FunctionOutput fOutput;
     FunctionOutput (*fMapper)(bool mr, const TbTrParseNode& node) = nullptr;
+    std::uint32_t abbreviation = Abbreviation(fOldName);
 };
 
 /// The first row whose name matches wins. CTABLES has one percentile, so the estimation methods of
@@ -83,7 +84,7 @@ std::string ParseTree::MapFunctionName(const std::string& name, bool abbreviated
     const std::uint32_t key = Abbreviation(name);
     const auto row = std::find_if(
         funcInfoDictionary.begin(), funcInfoDictionary.end(), [&](const FunctionInfo& info) {
-            return abbreviated ? Abbreviation(info.fOldName) == key : info.fOldName == name;
+            return abbreviated ? info.abbreviation == key : info.fOldName == name;
         });
     if (row == funcInfoDictionary.end()) {
         return {};
