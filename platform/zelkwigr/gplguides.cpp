@@ -11,10 +11,8 @@ namespace recastor {
 
 namespace {
 
-/// What DimensionLabel() says, as a string.
 std::string DimensionTitle(const ChartDimension& dimension) {
-    return dimension.title.empty() ? GplString(VariableLabel(dimension.variable))
-                                   : GplString(dimension.title);
+    return GplString(DimensionLabel(dimension));
 }
 
 /// `title` is a string, `place` what follows the title with its comma.

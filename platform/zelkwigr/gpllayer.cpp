@@ -59,11 +59,9 @@ std::string AlphaOfPercent(double percent) {
 }
 
 void AppendLayer(const Layer& layer, std::string& text) {
-    text.append(" ELEMENT: ").append(layer.kind);
-    text.append("(position(").append(layer.position).append(")");
-    AppendGplArguments(text, {layer.color, layer.surface, layer.size, layer.split, layer.labels,
-                              layer.shape, layer.jump, layer.missing});
-    text += ")\n";
+    AppendGplCallLine(text, "ELEMENT", {layer.kind, "(position(", layer.position, ")"},
+                      {layer.color, layer.surface, layer.size, layer.split, layer.labels,
+                       layer.shape, layer.jump, layer.missing});
 }
 
 } // namespace recastor

@@ -22,9 +22,8 @@ struct Scale {
 };
 
 void AppendScale(const std::string& place, const Scale& scale, std::string& text) {
-    text.append(" SCALE: ").append(scale.function).append("(").append(place);
-    AppendGplArguments(text, {scale.first, scale.second, scale.third});
-    text += ")\n";
+    AppendGplCallLine(text, "SCALE", {scale.function, "(", place},
+                      {scale.first, scale.second, scale.third});
 }
 
 Scale CategoryScale(const ChartModel& chart, const ChartVariable& variable) {

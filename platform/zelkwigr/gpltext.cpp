@@ -16,6 +16,16 @@ void AppendEscaped(std::string& text, std::string_view plain) {
     }
 }
 
+void BeginLine(std::string& text, std::string_view keyword,
+               std::initializer_list<std::string_view> pieces) {
+    text += ' ';
+    text += keyword;
+    text += ": ";
+    for (const std::string_view piece : pieces) {
+        text += piece;
+    }
+}
+
 } // namespace
 
 std::string GplNumber(double value) {
@@ -68,15 +78,6 @@ std::string GplCall(std::string_view name, std::initializer_list<std::string_vie
     return call += ')';
 }
 
-void AppendGplArguments(std::string& text, std::initializer_list<std::string_view> arguments) {
-    for (const std::string_view argument : arguments) {
-        if (!argument.empty()) {
-            text += ", ";
-            text += argument;
-        }
-    }
-}
-
 std::string GplDimensions(const std::vector<int>& dimensions) {
     std::string call = "dim(";
     const char* separator = "";
@@ -90,13 +91,21 @@ std::string GplDimensions(const std::vector<int>& dimensions) {
 
 void AppendGplLine(std::string& text, std::string_view keyword,
                    std::initializer_list<std::string_view> statement) {
-    text += ' ';
-    text += keyword;
-    text += ": ";
-    for (const std::string_view piece : statement) {
-        text += piece;
-    }
+    BeginLine(text, keyword, statement);
     text += '\n';
+}
+
+void AppendGplCallLine(std::string& text, std::string_view keyword,
+                       std::initializer_list<std::string_view> call,
+                       std::initializer_list<std::string_view> arguments) {
+    BeginLine(text, keyword, call);
+    for (const std::string_view argument : arguments) {
+        if (!argument.empty()) {
+            text += ", ";
+            text += argument;
+        }
+    }
+    text += ")\n";
 }
 
 } // namespace recastor

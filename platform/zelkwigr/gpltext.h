@@ -21,14 +21,17 @@ std::string GplString(const std::vector<std::string>& lines);
 /// `name(a, b, c)`; an argument that is empty is left out.
 std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments);
 
-/// Appends a function's further arguments, each behind a comma; one that is empty is left out.
-void AppendGplArguments(std::string& text, std::initializer_list<std::string_view> arguments);
-
 /// `dim(1,3)`.
 std::string GplDimensions(const std::vector<int>& dimensions);
 
 /// Appends the line ` KEYWORD: statement` and its line feed; the statement comes in pieces.
 void AppendGplLine(std::string& text, std::string_view keyword,
                    std::initializer_list<std::string_view> statement);
+
+/// The same of a function call: `call` is its name and first argument in pieces, `arguments` are
+/// the further ones; one that is empty is left out.
+void AppendGplCallLine(std::string& text, std::string_view keyword,
+                       std::initializer_list<std::string_view> call,
+                       std::initializer_list<std::string_view> arguments);
 
 } // namespace recastor
