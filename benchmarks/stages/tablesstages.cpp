@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include <benchmark/benchmark.h>
 
@@ -58,7 +59,8 @@ OpaqueValue TokenValue(const std::string& text, int code) {
     OpaqueValue value;
     OpaqueValue_Init(value);
     OpaqueValue_SetZELKToken(value,
-                             new ZELKStringToken(text.data(), text.data() + text.size(), 1, 1, text,
+                             new ZELKStringToken(text.data(), text.data() + text.size(), 1, 1,
+                                                 std::string(text),
                                                  TokenSequenceBase::kNotOperator),
                              code);
     return value;

@@ -14,6 +14,23 @@ namespace {
 /// Whole lines are written in blocks of about this many bytes.
 constexpr std::size_t kBlockSize = 65536;
 
+/// How many bytes at the front of `text`, which begins a line, are whole lines that hold more than
+/// white space.
+std::size_t SizeOfFilledLines(std::string_view text) {
+    std::size_t size = 0;
+    for (std::size_t i = 0; i < text.size(); i = size) {
+        while (i < text.size() && IsWhiteSpace(text[i]) && text[i] != '\n') {
+            ++i;
+        }
+        const auto lineFeed = text.find('\n', i);
+        if (lineFeed == i || lineFeed == std::string_view::npos) {
+            break;
+        }
+        size = lineFeed + 1;
+    }
+    return size;
+}
+
 } // namespace
 
 LineWriteBuffer::int_type LineWriteBuffer::overflow(int_type c) {
@@ -26,14 +43,16 @@ LineWriteBuffer::int_type LineWriteBuffer::overflow(int_type c) {
 
 std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count) {
     std::string_view rest(text, static_cast<std::size_t>(count));
-    for (auto lineFeed = rest.find('\n'); lineFeed != std::string_view::npos;
-         lineFeed = rest.find('\n')) {
+    for (;;) {
+        rest.remove_prefix(AppendFilledLines(rest));
+        const auto lineFeed = rest.find('\n');
         m_block += rest.substr(0, lineFeed);
+        if (lineFeed == std::string_view::npos) {
+            return count;
+        }
         rest.remove_prefix(lineFeed + 1);
         EndLine();
     }
-    m_block += rest;
-    return count;
 }
 
 int LineWriteBuffer::sync() {
@@ -43,13 +62,29 @@ int LineWriteBuffer::sync() {
     return 0;
 }
 
+std::size_t LineWriteBuffer::AppendFilledLines(std::string_view text) {
+    if (m_crLf || m_lineStart < m_block.size()) {
+        return 0;
+    }
+    const std::size_t size = SizeOfFilledLines(text);
+    if (size > 0) {
+        m_block += text.substr(0, size);
+        EndBlockOfLines();
+    }
+    return size;
+}
+
 void LineWriteBuffer::EndLine() {
     if (IsWSOnly(std::string_view(m_block).substr(m_lineStart))) {
         m_block.resize(m_lineStart);
         return;
     }
-    m_anyLine = true;
     m_block += m_crLf && !m_block.ends_with('\r') ? "\r\n" : "\n";
+    EndBlockOfLines();
+}
+
+void LineWriteBuffer::EndBlockOfLines() {
+    m_anyLine = true;
     m_lineStart = m_block.size();
     if (m_block.size() >= kBlockSize) {
         WriteBlock();

@@ -6,6 +6,7 @@
 #include <ostream>
 #include <streambuf>
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
@@ -32,7 +33,12 @@ protected:
     int sync() override;
 
 private:
+    /// Appends the lines at the front of `text` that are written as they stand, if a line may begin
+    /// here; returns their bytes.
+    std::size_t AppendFilledLines(std::string_view text);
     void EndLine();
+    /// The block ends in a line that is written.
+    void EndBlockOfLines();
 
     const FileDescriptor& m_file;
     std::string m_block;         ///< whole lines that wait to be written, and the one at hand

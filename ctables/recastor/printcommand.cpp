@@ -13,8 +13,7 @@ constexpr unsigned kWidestIndent = 20;
 } // namespace
 
 bool IsWSOnly(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+    return std::all_of(text.begin(), text.end(), IsWhiteSpace);
 }
 
 void PrintCommand(const std::string& text, std::ostream& out, unsigned indent) {

@@ -7,7 +7,12 @@
 
 namespace recastor {
 
-/// True when every character is a blank, a tab, a line feed or a carriage return; true for "".
+/// True for a blank, a tab, a line feed and a carriage return.
+inline bool IsWhiteSpace(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+/// True when every character is white space; true for "".
 bool IsWSOnly(std::string_view text);
 
 /// Writes `text` as one command or message line: `indent` blanks first (above 20: one), the text

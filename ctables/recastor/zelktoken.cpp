@@ -143,7 +143,7 @@ void ZELKNumberToken::Print(std::ostream& out, int indent) const {
 }
 
 ZELKStringToken::ZELKStringToken(const char* first, const char* end, int line, int column,
-                                 std::string upperCased, OperatorCode code) :
+                                 std::string&& upperCased, OperatorCode code) :
     ZELKToken(first, end, line, column),
     m_value(std::move(upperCased)), m_code(code) {}
 
@@ -175,7 +175,7 @@ void ZELKOperatorToken::Print(std::ostream& out, int indent) const {
 }
 
 ZELKLiteralToken::ZELKLiteralToken(const char* first, const char* end, int line, int column,
-                                   std::string value) :
+                                   std::string&& value) :
     ZELKToken(first, end, line, column),
     m_value(std::move(value)) {}
 

@@ -72,7 +72,7 @@ class ZELKStringToken : public ZELKToken {
 public:
     /// `upperCased` may be empty when the raw text is upper-cased already.
     ZELKStringToken(const char* first, const char* end, int line, int column,
-                    std::string upperCased, OperatorCode code);
+                    std::string&& upperCased, OperatorCode code);
     TokenType Type() const override { return TokenSequenceBase::kString; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;
@@ -100,7 +100,7 @@ private:
 /// A quoted string; its raw text keeps the quotes and the joins of its segments.
 class ZELKLiteralToken final : public ZELKToken {
 public:
-    ZELKLiteralToken(const char* first, const char* end, int line, int column, std::string value);
+    ZELKLiteralToken(const char* first, const char* end, int line, int column, std::string&& value);
     TokenType Type() const override { return TokenSequenceBase::kLiteral; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;

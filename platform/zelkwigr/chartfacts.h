@@ -1,6 +1,7 @@
 /// What follows from a chart: everything that more than one line of its GPL text depends on.
 #pragma once
 
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkwigr/chartquestions.h"
 
 #include <bitset>
@@ -56,13 +57,16 @@ struct DimensionNumbers {
     int firstPanel;
 };
 
+/// Elements that belong to a chart.
+using ElementList = std::vector<const ChartElement*, SmallObjectAllocator<const ChartElement*>>;
+
 /// The facts of one chart, which must outlive them.
 struct ChartFacts {
     explicit ChartFacts(const ChartModel& model);
 
     const ChartModel& chart;
-    std::vector<const ChartElement*> drawn; ///< the elements that are drawn, in order
-    ElementKinds kinds;                     ///< theirs
+    ElementList drawn;  ///< the elements that are drawn, in order
+    ElementKinds kinds; ///< theirs
     ChartForm form = ChartForm::kPlain;
     DimensionNumbers dimensions{};
 

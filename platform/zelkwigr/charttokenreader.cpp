@@ -135,8 +135,8 @@ ChartTokenReader::Word ChartTokenReader::TakeNameWord() {
 }
 
 ChartVariable ChartTokenReader::Named(const Word& word) {
-    const auto [place, isNew] = m_spellings.try_emplace(std::string(word.upper), word.spelling);
-    return {place->second, BuiltInNamed(word.upper)};
+    const auto [place, isNew] = m_spellings.try_emplace(word.upper, word.spelling);
+    return {std::string(place->second), BuiltInNamed(word.upper)};
 }
 
 } // namespace recastor

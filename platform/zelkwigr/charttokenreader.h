@@ -130,7 +130,7 @@ private:
     bool m_failed = false;
     Words m_tried;   ///< the keywords that the token at hand was found not to be
     Words m_options; ///< of the subcommand at hand
-    std::unordered_map<std::string, std::string> m_spellings; ///< by the upper-cased name
+    std::unordered_map<std::string_view, std::string_view> m_spellings; ///< by upper-cased names
 };
 
 } // namespace recastor

@@ -1,5 +1,6 @@
 #include "platform/zelkwigr/gplnames.h"
 
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 #include "platform/zelkwigr/asciicase.h"
 
@@ -16,6 +17,8 @@ struct VariableUse {
     const ChartVariable* variable;
     Use use;
 };
+
+using Uses = std::vector<VariableUse, SmallObjectAllocator<VariableUse>>;
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -62,7 +65,7 @@ public:
         }
     }
 
-    const std::vector<VariableUse>& Uses() const { return m_uses; }
+    const Uses& All() const { return m_uses; }
 
 private:
     static constexpr std::size_t kMostPositionsAndAesthetics = 8; // and a label or two
@@ -105,7 +108,7 @@ private:
         }
     }
 
-    std::vector<VariableUse> m_uses;
+    Uses m_uses;
 };
 
 } // namespace
@@ -115,12 +118,16 @@ std::string GplNames::Free(std::string_view base, std::string_view suffix) const
         return std::any_of(m_taken.begin(), m_taken.end(),
                            [&](const std::string& taken) { return EqualWithoutCase(taken, name); });
     };
-    const std::string name = MakeGplName(base).append(suffix);
-    std::string free = name;
-    for (int number = 2; isTaken(free); ++number) {
-        free = name + '_' + std::to_string(number);
+    std::string name = MakeGplName(base).append(suffix);
+    if (!isTaken(name)) {
+        return name;
     }
-    return free;
+    int number = 2;
+    const auto numbered = [&] { return name + '_' + std::to_string(number); };
+    while (isTaken(numbered())) {
+        ++number;
+    }
+    return numbered();
 }
 
 std::string GplNames::Take(std::string_view base, std::string_view suffix) {
@@ -130,14 +137,14 @@ std::string GplNames::Take(std::string_view base, std::string_view suffix) {
 
 bool NamesVariables(const ChartFacts& facts) {
     const UseList list(facts);
-    return std::any_of(list.Uses().begin(), list.Uses().end(), [](const VariableUse& each) {
+    return std::any_of(list.All().begin(), list.All().end(), [](const VariableUse& each) {
         return !IsCaseNumber(DataName(*each.variable));
     });
 }
 
 GplVariables::GplVariables(const ChartFacts& facts) {
     const UseList list(facts);
-    const std::vector<VariableUse>& uses = list.Uses();
+    const Uses& uses = list.All();
     m_entries.reserve(uses.size());
     for (auto use = uses.begin(); use != uses.end(); ++use) {
         const auto isSame = [&](const VariableUse& other) {

@@ -1,5 +1,6 @@
 #include "platform/zelkwigr/gpltext.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -8,12 +9,15 @@ namespace recastor {
 namespace {
 
 void AppendEscaped(std::string& text, std::string_view plain) {
-    for (const char c : plain) {
-        if (c == '"' || c == '\\') {
-            text += '\\';
-        }
-        text += c;
+    const auto isEscaped = [](char c) { return c == '"' || c == '\\'; };
+    const auto* first = plain.begin();
+    for (const auto* next = std::find_if(first, plain.end(), isEscaped); next != plain.end();
+         next = std::find_if(next + 1, plain.end(), isEscaped)) {
+        text.append(first, next);
+        text += '\\';
+        first = next;
     }
+    text.append(first, plain.end());
 }
 
 void BeginLine(std::string& text, std::string_view keyword,

@@ -19,7 +19,7 @@ bool parser::CompleteAndValidateSyntax() {
     if (!IsValidChart(m_chart)) {
         return false;
     }
-    m_settings = iGraphSpec(std::exchange(m_chart, ChartModel()));
+    m_settings = iGraphSpec(std::move(m_chart));
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 #include <stdexcept>
+#include <utility>
 
 namespace recastor {
 
@@ -15,8 +16,9 @@ namespace {
 TbTrParseNode* MakeVariable(const std::string& name) {
     std::string upperCased;
     UpperCaseString(name, upperCased);
-    return TbTrParseNode::MakeVarNameNode(new ZELKStringToken(
-        name.data(), name.data() + name.size(), 1, 1, upperCased, TokenSequenceBase::kNotOperator));
+    return TbTrParseNode::MakeVarNameNode(
+        new ZELKStringToken(name.data(), name.data() + name.size(), 1, 1, std::move(upperCased),
+                            TokenSequenceBase::kNotOperator));
 }
 
 /// Reads the tree that begins at `position`, and goes behind it.

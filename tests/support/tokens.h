@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace recastor {
 
@@ -13,7 +14,7 @@ inline ZELKToken* Word(std::string_view text) {
     for (char& letter : upperCased) {
         letter = letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
     }
-    return new ZELKStringToken(text.data(), text.data() + text.size(), 1, 4, upperCased,
+    return new ZELKStringToken(text.data(), text.data() + text.size(), 1, 4, std::move(upperCased),
                                TokenSequenceBase::kNotOperator);
 }
 

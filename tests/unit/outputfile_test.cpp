@@ -73,6 +73,15 @@ TEST_F(Output, EveryLineMayEndInTwoCharacters) {
     EXPECT_EQ(Written({"a\r\nb\n"}), "a\r\nb\n");
 }
 
+TEST_F(Output, LinesAreTheSameWhereverTheTextIsCut) {
+    const std::string text = "a\n \t\r\n\n\rb\r\n  c\n\n \nd e\n\v\n f";
+    for (std::size_t cut = 0; cut <= text.size(); ++cut) {
+        const std::vector<std::string> pieces{text.substr(0, cut), text.substr(cut)};
+        EXPECT_EQ(Written(pieces), "a\n\rb\r\n  c\nd e\n\v\n f\n") << cut;
+        EXPECT_EQ(Written(pieces, true), "a\r\n\rb\r\n  c\r\nd e\r\n\v\r\n f\r\n") << cut;
+    }
+}
+
 TEST_F(Output, SingleCharactersAreGatheredToo) {
     OutputFile output;
     ASSERT_TRUE(Open(output, m_path.string()));
