@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace recastor {
 
@@ -93,7 +92,7 @@ private:
         }
     }
 
-    std::vector<Pointer, SmallObjectAllocator<Pointer>> m_slots;
+    SmallVector<Pointer> m_slots;
     // Of 32 bits, since there are many nodes and an index of more does not exist.
     std::uint32_t m_gapStart = 0;
     std::uint32_t m_gapSize = 0; ///< the slots of the gap are null

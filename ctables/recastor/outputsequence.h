@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace recastor {
 
@@ -70,7 +69,7 @@ private:
     }
 
     std::string m_text; ///< of all pieces, one behind the other
-    std::vector<Piece, SmallObjectAllocator<Piece>> m_pieces;
+    SmallVector<Piece> m_pieces;
     std::int64_t m_lastNewline; ///< index of the last line break; -1 when there is none
 };
 

@@ -12,7 +12,6 @@
 #include <array>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace recastor {
 
@@ -42,7 +41,7 @@ struct Term {
     const TbTrParseNode& expression;
     bool groupMagnet;
     bool hasTotals;
-    std::vector<TermVariable, SmallObjectAllocator<TermVariable>> variables; ///< in their order
+    SmallVector<TermVariable> variables; ///< in their order
 };
 
 Term MakeTerm(const TbTrParseNode& table, const TbTrParseNode& magnet) {

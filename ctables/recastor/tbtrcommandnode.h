@@ -2,11 +2,9 @@
 #pragma once
 
 #include "ctables/recastor/tbtrparsenode.h"
+#include "platform/zelkbase/smallobjects.h"
 
-#include <functional>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 
 namespace recastor {
 
@@ -30,10 +28,7 @@ public:
     Declaration FindDeclaration(std::string_view name) const;
 
 private:
-    using Declarations =
-        std::unordered_map<std::string_view, Declaration, std::hash<std::string_view>,
-                           std::equal_to<>,
-                           SmallObjectAllocator<std::pair<const std::string_view, Declaration>>>;
+    using Declarations = SmallHashMap<std::string_view, Declaration>;
 
     static void AddNames(const TbTrParseNode* list, int type, Declarations& declarations);
     Declarations ReadDeclarations() const;

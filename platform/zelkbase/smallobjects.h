@@ -4,7 +4,12 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <map>
 #include <new>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace recastor {
 
@@ -96,5 +101,15 @@ private:
     // The elements may well be pointers: their own size is meant, not that of what they point to.
     static constexpr std::size_t kElementSize = sizeof(T); // NOLINT(bugprone-sizeof-expression)
 };
+
+/// Containers that stay small as a rule and are made by the thousand.
+template <typename T>
+using SmallVector = std::vector<T, SmallObjectAllocator<T>>;
+template <typename Key, typename Value>
+using SmallHashMap = std::unordered_map<Key, Value, std::hash<Key>, std::equal_to<>,
+                                        SmallObjectAllocator<std::pair<const Key, Value>>>;
+template <typename Key, typename Value>
+using SmallMap =
+    std::map<Key, Value, std::less<>, SmallObjectAllocator<std::pair<const Key, Value>>>;
 
 } // namespace recastor

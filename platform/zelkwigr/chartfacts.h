@@ -58,7 +58,7 @@ struct DimensionNumbers {
 };
 
 /// Elements that belong to a chart.
-using ElementList = std::vector<const ChartElement*, SmallObjectAllocator<const ChartElement*>>;
+using ElementList = SmallVector<const ChartElement*>;
 
 /// The facts of one chart, which must outlive them.
 struct ChartFacts {

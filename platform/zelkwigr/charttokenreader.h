@@ -1,6 +1,7 @@
 /// Reads the tokens of an IGRAPH command as the pieces that its language is made of.
 #pragma once
 
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/tokensequencebase.h"
 #include "platform/zelkwigr/chartmodel.h"
 #include "platform/zelkwigr/keywords.h"
@@ -8,7 +9,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace recastor {
@@ -83,7 +83,7 @@ public:
     }
 
 private:
-    using Words = std::vector<std::string_view>;
+    using Words = SmallVector<std::string_view>;
 
     /// A word that may be a name: as written, and upper-cased to tell names apart.
     struct Word {
@@ -130,7 +130,7 @@ private:
     bool m_failed = false;
     Words m_tried;   ///< the keywords that the token at hand was found not to be
     Words m_options; ///< of the subcommand at hand
-    std::unordered_map<std::string_view, std::string_view> m_spellings; ///< by upper-cased names
+    SmallHashMap<std::string_view, std::string_view> m_spellings; ///< by upper-cased names
 };
 
 } // namespace recastor

@@ -9,7 +9,7 @@ doPostProcessing::doPostProcessing(XDocument* /*document*/, FacSTDictionary* /*d
 
 void doPostProcessing::process(const iGraphSpec& spec) {
     m_templates.clear();
-    if (WrapsPanels(ChartFacts(spec.Chart()))) {
+    if (WrapsPanels(spec.Facts())) {
         m_templates.emplace_back("<setWrapPanels/>");
     }
 }

@@ -2,7 +2,7 @@
 
 namespace recastor {
 
-std::vector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts) {
+SmallVector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts) {
     const ElementKinds filled{ElementKind::kBar, ElementKind::kArea,     ElementKind::kPie,
                               ElementKind::kBox, ElementKind::kErrorBar, ElementKind::kHistogram};
     const ElementKinds pointed{ElementKind::kScatter, ElementKind::kLine};
@@ -16,7 +16,7 @@ std::vector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts) {
         {{"aesthetic.shape.interior", style}, facts.kinds.HasAnyOf(pointed)},
         {{"aesthetic.size", Find(facts.chart.size)}, facts.kinds.HasAnyOf(pointed)},
     };
-    std::vector<ShownAesthetic> shown;
+    SmallVector<ShownAesthetic> shown;
     for (const auto& row : rows) {
         if (row.isShown && row.aesthetic.dimension != nullptr) {
             shown.push_back(row.aesthetic);

@@ -1,9 +1,8 @@
 /// The aesthetics that have a legend and a scale.
 #pragma once
 
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkwigr/chartfacts.h"
-
-#include <vector>
 
 namespace recastor {
 
@@ -14,6 +13,6 @@ struct ShownAesthetic {
 };
 
 /// Those of the chart, in the order of their lines.
-std::vector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts);
+SmallVector<ShownAesthetic> ShownAesthetics(const ChartFacts& facts);
 
 } // namespace recastor

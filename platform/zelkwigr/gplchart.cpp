@@ -25,8 +25,8 @@ struct FunctionFinder {
 
 } // namespace
 
-GplChart::GplChart(const ChartModel& chart, const GplVariables& variables) :
-    m_facts(chart), m_variables(variables) {
+GplChart::GplChart(const ChartFacts& facts, const GplVariables& variables) :
+    m_facts(facts), m_variables(variables) {
     NameMeasure();
     LayOutAlgebra();
     Compute();

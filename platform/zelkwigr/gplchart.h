@@ -12,10 +12,11 @@
 
 namespace recastor {
 
-/// A chart that has a GPL form, with the names of its variables; both outlive what is made of them.
+/// The facts of a chart that has a GPL form, with the names of its variables; both outlive what is
+/// made of them.
 class GplChart {
 public:
-    GplChart(const ChartModel& chart, const GplVariables& variables);
+    GplChart(const ChartFacts& facts, const GplVariables& variables);
 
     const ChartFacts& Facts() const { return m_facts; }
     const GplVariables& Variables() const { return m_variables; }
@@ -38,7 +39,7 @@ private:
     void LayOutAlgebra();
     void Compute();
 
-    ChartFacts m_facts;
+    const ChartFacts& m_facts;
     const GplVariables& m_variables;
     std::string m_measure;
     std::string m_beforeMeasure; ///< the algebra's factors, each with its asterisk

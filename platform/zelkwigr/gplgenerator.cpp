@@ -24,8 +24,9 @@ void AppendPageBegin(const ChartModel& chart, std::string& text) {
 
 } // namespace
 
-std::string WriteGpl(const ChartModel& chart, const GplVariables& variables) {
-    const GplChart named(chart, variables);
+std::string WriteGpl(const ChartFacts& facts, const GplVariables& variables) {
+    const ChartModel& chart = facts.chart;
+    const GplChart named(facts, variables);
     std::string text;
     text.reserve(kUsualSize);
     text += '\n';
@@ -48,7 +49,7 @@ gplGenerator::gplGenerator(iGraphSpec& spec, const ZELK_DataSource* /*data*/,
     m_spec(spec) {}
 
 std::string gplGenerator::getGPL() const {
-    return m_spec.errorMessage().empty() ? WriteGpl(m_spec.Chart(), m_spec.Variables())
+    return m_spec.errorMessage().empty() ? WriteGpl(m_spec.Facts(), m_spec.Variables())
                                          : std::string();
 }
 

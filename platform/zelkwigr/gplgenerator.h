@@ -9,8 +9,8 @@
 namespace recastor {
 
 /// The lines of the block between BEGIN GPL and END GPL: it begins and ends with a line break.
-/// `chart` is one that has a GPL form, `variables` are its own.
-std::string WriteGpl(const ChartModel& chart, const GplVariables& variables);
+/// The chart is one that has a GPL form, `variables` are its own.
+std::string WriteGpl(const ChartFacts& facts, const GplVariables& variables);
 
 class gplGenerator {
 public:

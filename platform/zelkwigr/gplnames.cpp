@@ -18,7 +18,7 @@ struct VariableUse {
     Use use;
 };
 
-using Uses = std::vector<VariableUse, SmallObjectAllocator<VariableUse>>;
+using Uses = SmallVector<VariableUse>;
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');

@@ -1,17 +1,15 @@
 #include "platform/zelkwigr/igraphspec.h"
 
-#include "platform/zelkwigr/chartfacts.h"
 #include "platform/zelkwigr/gplobstacles.h"
 
 #include <utility>
 
 namespace recastor {
 
-iGraphSpec::iGraphSpec(ChartModel chart) : m_chart(std::move(chart)) {
-    const ChartFacts facts(m_chart);
-    m_errorMessage = WhyChartHasNoGpl(facts);
+iGraphSpec::iGraphSpec(ChartModel&& chart) : m_chart(std::move(chart)) {
+    m_errorMessage = WhyChartHasNoGpl(m_facts);
     if (m_errorMessage.empty()) {
-        m_variables = GplVariables(facts);
+        m_variables = GplVariables(m_facts);
     }
 }
 

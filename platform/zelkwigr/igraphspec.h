@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/zelkwggr/graphspec.h"
+#include "platform/zelkwigr/chartfacts.h"
 #include "platform/zelkwigr/chartmodel.h"
 #include "platform/zelkwigr/gplnames.h"
 
@@ -12,9 +13,10 @@ namespace recastor {
 
 class iGraphSpec {
 public:
-    iGraphSpec() = default;
     /// `chart` is valid, with its defaults filled in.
-    explicit iGraphSpec(ChartModel chart);
+    explicit iGraphSpec(ChartModel&& chart);
+    iGraphSpec(const iGraphSpec&) = delete;
+    iGraphSpec& operator=(const iGraphSpec&) = delete;
 
     /// The graph's own properties; they belong to this object.
     GraphSpec* getGGraphSpec() { return &m_graphSpec; }
@@ -28,11 +30,13 @@ public:
     const std::string& errorMessage() const { return m_errorMessage; }
 
     const ChartModel& Chart() const { return m_chart; }
+    const ChartFacts& Facts() const { return m_facts; }
     /// The variables that the GPL names; none when there is no GPL.
     const GplVariables& Variables() const { return m_variables; }
 
 private:
     ChartModel m_chart;
+    ChartFacts m_facts{m_chart};
     GraphSpec m_graphSpec;
     std::string m_errorMessage;
     GplVariables m_variables;

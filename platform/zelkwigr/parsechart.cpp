@@ -93,7 +93,6 @@ void ParseSubcommand(ChartTokenReader& reader, ChartModel& chart) {
 } // namespace
 
 bool ParseChart(TokenSequenceBase& tokens, ChartModel& chart) {
-    chart = ChartModel();
     ChartTokenReader reader(tokens);
     reader.Skip(); // the command's name, by which the caller knew it
     while (!reader.AtEnd()) {

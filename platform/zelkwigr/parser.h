@@ -4,6 +4,8 @@
 #include "platform/zelkwigr/igraphspec.h"
 #include "platform/zelkwigr/opaquetypes.h"
 
+#include <optional>
+
 namespace recastor {
 
 class TokenSequenceBase;
@@ -17,14 +19,16 @@ public:
     /// Reads the whole command. `tokens` stands before its first token, the command's name. False
     /// when it is not written in the language.
     bool Parse(TokenSequenceBase& tokens);
-    /// Fills in what the command leaves open. False when its parts do not fit together.
+    /// Fills in what the command leaves open. False when its parts do not fit together. A command
+    /// is completed once.
     bool CompleteAndValidateSyntax();
-    /// The graph of the last command that was valid; it belongs to the parser.
-    iGraphSpec* GetSettings() { return &m_settings; }
+    /// The graph of the last command that was valid, null before the first; it belongs to the
+    /// parser.
+    iGraphSpec* GetSettings() { return m_settings ? &*m_settings : nullptr; }
 
 private:
-    ChartModel m_chart;
-    iGraphSpec m_settings;
+    std::optional<ChartModel> m_chart; ///< of the last command that was parsed
+    std::optional<iGraphSpec> m_settings;
 };
 
 } // namespace recastor

@@ -117,7 +117,8 @@ ChartModel PieChart() {
 }
 
 std::string GplText(const ChartModel& chart) {
-    return WriteGpl(chart, GplVariables(ChartFacts(chart)));
+    const ChartFacts facts(chart);
+    return WriteGpl(facts, GplVariables(facts));
 }
 
 std::vector<std::string> GplLines(const ChartModel& chart, const std::string& keyword) {

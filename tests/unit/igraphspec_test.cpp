@@ -19,7 +19,7 @@ using testing::IsEmpty;
 
 std::vector<std::string> TemplatesOf(const ChartModel& chart) {
     doPostProcessing postProcessing(nullptr, nullptr, nullptr);
-    postProcessing.process(iGraphSpec(chart));
+    postProcessing.process(iGraphSpec(ChartModel(chart)));
     return postProcessing.getImmediateTemplates();
 }
 
@@ -34,7 +34,7 @@ TEST(IGraphSpec, TellsWhatTheChartSays) {
     ChartModel chart = ChartOf(MeanBar());
     chart.viewName = "Means";
     chart.chartLooks = {"one", "two"};
-    iGraphSpec spec(chart);
+    iGraphSpec spec{ChartModel(chart)};
     EXPECT_EQ(spec.getViewName(), "Means");
     EXPECT_THAT(spec.getChartLooks(), ElementsAre("one", "two"));
     EXPECT_EQ(spec.getUsedVarName(), "x y");
@@ -45,7 +45,7 @@ TEST(IGraphSpec, TellsWhatTheChartSays) {
 TEST(IGraphSpec, AChartWithoutGplHasAMessageAndNoText) {
     ChartModel chart = PieChart();
     chart.elements.emplace_back(Pie());
-    iGraphSpec spec(chart);
+    iGraphSpec spec{ChartModel(chart)};
     EXPECT_EQ(spec.errorMessage(), "*IGRAPH command with PIE and another element cannot be "
                                    "converted: a pie has no axes to share.");
     EXPECT_EQ(gplGenerator(spec, nullptr, nullptr).getGPL(), "");
@@ -70,6 +70,7 @@ TEST(DoPostProcessing, ForgetsTheGraphBefore) {
 
 TEST(Parser, ReadsSeveralCommandsOneAfterTheOther) {
     parser chartParser(nullptr, nullptr);
+    EXPECT_EQ(chartParser.GetSettings(), nullptr);
     ZELKTokenSequence first("IGRAPH /VIEWNAME='one' /X1=a /Y=b /SCATTER\n", false, 0);
     ASSERT_TRUE(chartParser.Parse(first));
     ASSERT_TRUE(chartParser.CompleteAndValidateSyntax());

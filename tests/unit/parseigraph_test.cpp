@@ -4,6 +4,7 @@
 
 #include <sstream>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -76,15 +77,15 @@ TEST(ParseIgraph, AChartWithoutGplSaysWhy) {
 }
 
 TEST(ParseIgraph, AGraphWithoutAViewNameIsListedAsInteractive) {
-    iGraphSpec spec;
-    LabelOutput(spec);
-    EXPECT_EQ(spec.getGGraphSpec()->OutputLabel(), "Interactive Graph");
     ChartModel chart;
+    iGraphSpec unnamed{ChartModel(chart)};
+    LabelOutput(unnamed);
+    EXPECT_EQ(unnamed.getGGraphSpec()->OutputLabel(), "Interactive Graph");
     chart.viewName = "Heights";
-    spec = iGraphSpec(chart);
-    LabelOutput(spec);
-    EXPECT_EQ(spec.getGGraphSpec()->OutputLabel(), "Heights");
-    EXPECT_EQ(spec.getViewName(), "Heights");
+    iGraphSpec named(std::move(chart));
+    LabelOutput(named);
+    EXPECT_EQ(named.getGGraphSpec()->OutputLabel(), "Heights");
+    EXPECT_EQ(named.getViewName(), "Heights");
 }
 
 } // namespace recastor
