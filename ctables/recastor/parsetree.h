@@ -2,11 +2,9 @@
 #pragma once
 
 #include "ctables/recastor/tbtrparsenode.h"
+#include "platform/zelkbase/smallobjects.h"
 
-#include <functional>
-#include <map>
 #include <string>
-#include <utility>
 
 namespace recastor {
 
@@ -14,9 +12,7 @@ class OutputSequence;
 
 /// Which total belongs to which variable of a table: from the variable's name as it is written to
 /// the SP_VARNAME node that declares its total.
-using TotalsMap =
-    std::map<std::string, const TbTrParseNode*, std::less<>,
-             SmallObjectAllocator<std::pair<const std::string, const TbTrParseNode*>>>;
+using TotalsMap = SmallMap<std::string, const TbTrParseNode*>;
 
 /// A namespace of operations on the tree; it has no state. Dimensions are numbered 1 rows, 2
 /// columns, 3 layers, 0 none. A dimension expression is an SP_VARNAME leaf or an SP_PLUS (stacking)
@@ -142,6 +138,8 @@ public:
     static double MultipliedOutSize(const TbTrParseNode& expression);
     /// A copy, the caller's, without any stacking inside a nesting; null for null.
     static TbTrParseNode::NodePtr MultiplyOut(const TbTrParseNode* expression);
+    /// The same without a copy; the expression keeps its place in its tree.
+    static void MultiplyOutInPlace(TbTrParseNode& expression);
     /// Takes the pseudo-variables STATISTICS (or LABELS) out of the table. The dimension where one
     /// stood; 4 when they stood in several, 0 when there was none.
     static int RemovePseudoVariables(TbTrParseNode& table, bool statistics);

@@ -80,24 +80,16 @@ void TakeOverOperandsOfItsLike(TbTrParseNode& operation) {
     }
 }
 
-/// Multiplies out from the outermost nesting inwards. The terms that a nesting becomes are
-/// multiplied out one by one, so that no work is done again for each of them.
-void MultiplyOutInPlace(TbTrParseNode& node) {
-    unsigned index = 0;
-    while (ParseTree::FindMergeCandidate(node, index) == &node) {
-        ParseTree::MergePlusNode(node, index);
-    }
-    bool holdsItsLike = false;
-    for (unsigned i = 0; i < node.GetChildCount(); ++i) {
-        TbTrParseNode* const child = node.GetChild(i);
-        if (child != nullptr && IsOperator(child->GetNodeType())) {
-            MultiplyOutInPlace(*child);
-            holdsItsLike = holdsItsLike || child->GetNodeType() == node.GetNodeType();
+/// The index of the first stacking among the operands of a nesting; kNoIndex when there is none.
+unsigned StackingOperand(const TbTrParseNode& expression) {
+    for (unsigned i = 0;
+         expression.GetNodeType() == SP_GREATERTHAN && i < expression.GetChildCount(); ++i) {
+        ZELK_ASSERT_AS(expression.GetChild(i) != nullptr, "root.GetChild(i) != 0");
+        if (expression.GetChild(i)->GetNodeType() == SP_PLUS) {
+            return i;
         }
     }
-    if (holdsItsLike) {
-        TakeOverOperandsOfItsLike(node);
-    }
+    return TbTrParseNode::kNoIndex;
 }
 
 /// How large an expression becomes.
@@ -171,16 +163,12 @@ void ParseTree::Normalize(TbTrParseNode& expression) {
 }
 
 TbTrParseNode* ParseTree::FindMergeCandidate(TbTrParseNode& root, unsigned& index) {
-    const int type = root.GetNodeType();
-    if (!IsOperator(type)) {
+    if (!IsOperator(root.GetNodeType())) {
         return nullptr;
     }
-    for (unsigned i = 0; type == SP_GREATERTHAN && i < root.GetChildCount(); ++i) {
-        ZELK_ASSERT_AS(root.GetChild(i) != nullptr, "root.GetChild(i) != 0");
-        if (root.GetChild(i)->GetNodeType() == SP_PLUS) {
-            index = i;
-            return &root;
-        }
+    if (const unsigned operand = StackingOperand(root); operand != TbTrParseNode::kNoIndex) {
+        index = operand;
+        return &root;
     }
     for (unsigned i = 0; i < root.GetChildCount(); ++i) {
         TbTrParseNode* const child = root.GetChild(i);
@@ -223,6 +211,26 @@ TbTrParseNode::NodePtr ParseTree::MultiplyOut(const TbTrParseNode* expression) {
     TbTrParseNode::NodePtr product(expression->Clone());
     MultiplyOutInPlace(*product);
     return product;
+}
+
+/// Multiplies out from the outermost nesting inwards. The terms that a nesting becomes are
+/// multiplied out one by one, so that no work is done again for each of them.
+void ParseTree::MultiplyOutInPlace(TbTrParseNode& expression) {
+    for (unsigned index = StackingOperand(expression); index != TbTrParseNode::kNoIndex;
+         index = StackingOperand(expression)) {
+        MergePlusNode(expression, index);
+    }
+    bool holdsItsLike = false;
+    for (unsigned i = 0; i < expression.GetChildCount(); ++i) {
+        TbTrParseNode* const child = expression.GetChild(i);
+        if (child != nullptr && IsOperator(child->GetNodeType())) {
+            MultiplyOutInPlace(*child);
+            holdsItsLike = holdsItsLike || child->GetNodeType() == expression.GetNodeType();
+        }
+    }
+    if (holdsItsLike) {
+        TakeOverOperandsOfItsLike(expression);
+    }
 }
 
 int ParseTree::RemovePseudoVariables(TbTrParseNode& table, bool statistics) {

@@ -54,8 +54,8 @@ bool CanBeMultipliedOut(const TbTrParseNode& table) {
 /// The dimensions of a table once its statistics dimension is known.
 class TableDimensions {
 public:
-    /// Multiplies every dimension out; for the statistics dimension the result takes its place in
-    /// the table, for the others it is kept beside, for the bases of percentages.
+    /// Multiplies every dimension out: the statistics dimension in its place in the table, copies
+    /// of the others, for the bases of percentages.
     TableDimensions(TbTrParseNode& table, int statsDimension) :
         m_table(table), m_statsDimension(statsDimension) {
         constexpr int kDimensions = 3;
@@ -93,17 +93,15 @@ public:
 
 private:
     TbTrParseNode::NodePtr Expand(int dimension) {
-        const TbTrParseNode* const expression = m_table.GetChild(SlotOf(dimension));
+        TbTrParseNode* const expression = m_table.GetChild(SlotOf(dimension));
         if (expression == nullptr) {
             return nullptr;
         }
         m_lastPresent = dimension;
-        TbTrParseNode::NodePtr product = ParseTree::MultiplyOut(expression);
         if (dimension != m_statsDimension) {
-            return product;
+            return ParseTree::MultiplyOut(expression);
         }
-        ZELK_ASSERT(product);
-        m_replaced = m_table.SetChild(SlotOf(dimension), product.release());
+        ParseTree::MultiplyOutInPlace(*expression);
         return nullptr;
     }
 
@@ -111,7 +109,6 @@ private:
     int m_statsDimension;
     int m_lastPresent = 0;
     ExpandedDimensions m_expanded;
-    TbTrParseNode::NodePtr m_replaced; ///< the statistics dimension as it was
 };
 
 void ExpressCategories(const TbTrParseNode& table, OutputSequence& output) {

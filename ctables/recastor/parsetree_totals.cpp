@@ -2,11 +2,8 @@
 
 #include "ctables/recastor/outputsequence.h"
 #include "ctables/recastor/parsetree_lookup.h"
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
-
-#include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace recastor {
 
@@ -188,7 +185,7 @@ int TotalVarTypeFromDecl(const TbTrParseNode& declaration) {
 
 bool ExpressCatsForTotals(TotalsMap& totals, OutputSequence& output) {
     output.Clear();
-    std::unordered_map<const TbTrParseNode*, std::vector<TotalsMap::iterator>> sharing;
+    SmallHashMap<const TbTrParseNode*, SmallVector<TotalsMap::iterator>> sharing;
     for (auto entry = totals.begin(); entry != totals.end(); ++entry) {
         sharing[entry->second].push_back(entry);
     }
@@ -202,7 +199,7 @@ bool ExpressCatsForTotals(TotalsMap& totals, OutputSequence& output) {
         }
         output.PushBack("/CATEGORIES VAR=", false);
         output.PushBack(entry.first, false);
-        const std::vector<TotalsMap::iterator>& sharers = sharing[declaration];
+        const SmallVector<TotalsMap::iterator>& sharers = sharing[declaration];
         for (const auto& later : sharers) {
             if (later->first != entry.first) {
                 output.PushBack(later->first, true);

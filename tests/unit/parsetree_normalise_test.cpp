@@ -197,6 +197,16 @@ TEST(MultiplyOut, LeavesItsArgumentAsItIs) {
     EXPECT_EQ(DumpTree(tree.get()), dump);
 }
 
+TEST(MultiplyOutInPlace, KeepsThePlaceInTheTree) {
+    const auto tree = TreeFromDump("(TABLE (> (+ a b) c) (> d (+ e f)))");
+    ASSERT_EQ(tree->GetChildCount(), 2U);
+    const TbTrParseNode* const rows = tree->GetChild(0);
+    ParseTree::MultiplyOutInPlace(*tree->GetChild(0));
+    EXPECT_EQ(DumpTree(tree.get()), "(TABLE (+ (> a c) (> b c)) (> d (+ e f)))");
+    EXPECT_EQ(tree->GetChild(0), rows);
+    EXPECT_EQ(rows->GetParent(), tree.get());
+}
+
 TEST(MultiplyOut, CopiesTheMarksOfVariables) {
     const auto tree = TreeFromDump("(> a (+ b c))");
     TbTrParseNode* const mark = TreeFromDump("t").release();
