@@ -2,30 +2,39 @@
 #pragma once
 
 #include "ctables/recastor/tbtrparsenode.h"
+#include "platform/zelkbase/smallobjects.h"
 
 #include <array>
-#include <unordered_map>
 
 namespace recastor {
 
-/// A TBI_GENERICLIST with a slot for each dimension: its multiplied-out expression; null for the
-/// statistics dimension and for one that the table does not have. It remembers in which dimensions
-/// a list of base variables stands, for every term of a table asks that again.
+/// A TBI_GENERICLIST with an empty slot for each dimension. It answers for the dimensions beside
+/// the statistics dimension as their multiplied-out forms would, without making those: they can be
+/// far larger than the table. It remembers its answers, for every term of a table asks again.
 class ExpandedDimensions : public TbTrParseNode {
 public:
     static constexpr unsigned kDimensions = 3;
 
-    ExpandedDimensions() : TbTrParseNode(TBI_GENERICLIST, nullptr) {}
+    ExpandedDimensions() : TbTrParseNode(TBI_GENERICLIST, nullptr) {
+        InsertNullChildren(0, kDimensions);
+    }
 
     const ExpandedDimensions* AsExpandedDimensions() const override { return this; }
 
-    /// What ParseTree::CheckBaseListInDimension answers for the dimension in the slot, which is not
-    /// null, and the list. Both must not change any more.
+    /// Lets the slot stand for a dimension, which stays the table's and must not change any more.
+    void SetDimension(unsigned slot, const TbTrParseNode& expression) {
+        m_dimensions.at(slot) = &expression;
+    }
+    bool HasDimension(unsigned slot) const { return m_dimensions.at(slot) != nullptr; }
+
+    /// What ParseTree::CheckBaseListInDimension answers for the multiplied-out dimension in the
+    /// slot, which has one. The list must not change any more.
     int FlagOf(unsigned slot, const TbTrParseNode& baseList) const;
 
 private:
-    using Flags = std::unordered_map<const TbTrParseNode*, int>; ///< by the list of base variables
+    using Flags = SmallHashMap<const TbTrParseNode*, int>; ///< by the list of base variables
 
+    std::array<const TbTrParseNode*, kDimensions> m_dimensions{};
     mutable std::array<Flags, kDimensions> m_flags;
 };
 

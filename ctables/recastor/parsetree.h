@@ -43,8 +43,9 @@ public:
     static bool TranslateTableSubcommand(TbTrParseNode& table, OutputSequence& output);
     /// The dimension whose variables carry the statistics; 0 when there is no dimension.
     static int DetermineStatsDimension(const TbTrParseNode& table, const TotalsMap& totals);
-    /// Writes one dimension. `expandedDimensions` holds the multiplied-out form of every dimension
-    /// but the statistics dimension in three slots. The first magnet that is met is noted.
+    /// Writes one dimension. `expandedDimensions` holds, or answers for, the multiplied-out form of
+    /// every dimension but the statistics dimension in three slots. The first magnet that is met is
+    /// noted.
     static bool ExpressDimension(const TbTrParseNode& expression, int dimension, int statsDimension,
                                  const TbTrParseNode& expandedDimensions,
                                  const TbTrParseNode*& firstMagnet, OutputSequence& output);

@@ -39,15 +39,16 @@ std::array<int, kDimensions> FlagsOfDimensions(const TbTrParseNode& term, int st
                                                const TbTrParseNode& baseList,
                                                const TbTrParseNode& otherDimensions) {
     const auto statsSlot = static_cast<unsigned>(statsCompDim - 1);
-    const ExpandedDimensions* const remembering = otherDimensions.AsExpandedDimensions();
+    const ExpandedDimensions* const answering = otherDimensions.AsExpandedDimensions();
     std::array<int, kDimensions> baseInDim{};
     for (unsigned ixDim = 0; ixDim < kDimensions; ++ixDim) {
         const TbTrParseNode* const expression = otherDimensions.GetChild(ixDim);
-        if (expression != nullptr) {
+        if (answering != nullptr && answering->HasDimension(ixDim)) {
             ZELK_ASSERT_AS(ixDim != statsSlot, "ixDim != statsCompDim-1");
-            baseInDim[ixDim] = remembering != nullptr
-                                   ? remembering->FlagOf(ixDim, baseList)
-                                   : ParseTree::CheckBaseListInDimension(*expression, baseList);
+            baseInDim[ixDim] = answering->FlagOf(ixDim, baseList);
+        } else if (expression != nullptr) {
+            ZELK_ASSERT_AS(ixDim != statsSlot, "ixDim != statsCompDim-1");
+            baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(*expression, baseList);
         } else if (ixDim == statsSlot) {
             baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(term, baseList);
             ZELK_ASSERT(baseInDim[ixDim] != -1);

@@ -33,34 +33,39 @@ bool AssociateTotalsOfTable(const TbTrParseNode& table, TotalsMap& totals) {
     return true;
 }
 
-/// Refuses a table that would grow beyond all use, and the machine's memory, when its nestings are
-/// multiplied out over their stackings: n nested pairs make 2 to the power of n terms.
-bool CanBeMultipliedOut(const TbTrParseNode& table) {
+/// Refuses a statistics dimension that would grow beyond all use, and the machine's memory, when
+/// its nestings are multiplied out over their stackings: n nested pairs make 2 to the power of n
+/// terms.
+bool CanBeMultipliedOut(TbTrParseNode& expression) {
     constexpr double kMostVariables = 2'000'000;
-    for (unsigned i = 0; i < table.GetChildCount(); ++i) {
-        TbTrParseNode* const expression = table.GetChild(i);
-        unsigned unused = 0;
-        const bool grows =
-            expression != nullptr && ParseTree::FindMergeCandidate(*expression, unused) != nullptr;
-        if (grows && ParseTree::MultipliedOutSize(*expression) > kMostVariables) {
-            ReportTranslationError(TokenOf(*ParseTree::GetNextVariable(*expression, nullptr)),
-                                   TB_TABLE, TbTrTablesCommand::kTooManyTerms);
-            return false;
-        }
+    unsigned unused = 0;
+    if (ParseTree::FindMergeCandidate(expression, unused) == nullptr ||
+        ParseTree::MultipliedOutSize(expression) <= kMostVariables) {
+        return true;
     }
-    return true;
+    ReportTranslationError(TokenOf(*ParseTree::GetNextVariable(expression, nullptr)), TB_TABLE,
+                           TbTrTablesCommand::kTooManyTerms);
+    return false;
 }
 
 /// The dimensions of a table once its statistics dimension is known.
 class TableDimensions {
 public:
-    /// Multiplies every dimension out: the statistics dimension in its place in the table, copies
-    /// of the others, for the bases of percentages.
-    TableDimensions(TbTrParseNode& table, int statsDimension) :
+    /// Multiplies the statistics dimension out, in its place in the table.
+    TableDimensions(const TbTrParseNode& table, int statsDimension) :
         m_table(table), m_statsDimension(statsDimension) {
         constexpr int kDimensions = 3;
         for (int dimension = 1; dimension <= kDimensions; ++dimension) {
-            m_expanded.AppendChild(Expand(dimension).release());
+            TbTrParseNode* const expression = table.GetChild(SlotOf(dimension));
+            if (expression == nullptr) {
+                continue;
+            }
+            m_lastPresent = dimension;
+            if (dimension == statsDimension) {
+                ParseTree::MultiplyOutInPlace(*expression);
+            } else {
+                m_expanded.SetDimension(SlotOf(dimension), *expression);
+            }
         }
     }
 
@@ -92,20 +97,7 @@ public:
     }
 
 private:
-    TbTrParseNode::NodePtr Expand(int dimension) {
-        TbTrParseNode* const expression = m_table.GetChild(SlotOf(dimension));
-        if (expression == nullptr) {
-            return nullptr;
-        }
-        m_lastPresent = dimension;
-        if (dimension != m_statsDimension) {
-            return ParseTree::MultiplyOut(expression);
-        }
-        ParseTree::MultiplyOutInPlace(*expression);
-        return nullptr;
-    }
-
-    TbTrParseNode& m_table;
+    const TbTrParseNode& m_table;
     int m_statsDimension;
     int m_lastPresent = 0;
     ExpandedDimensions m_expanded;
@@ -194,7 +186,7 @@ bool ParseTree::TranslateTableSubcommand(TbTrParseNode& table, OutputSequence& o
     if (statsDimension == 0) {
         return true;
     }
-    if (!CanBeMultipliedOut(table)) {
+    if (!CanBeMultipliedOut(*table.GetChild(SlotOf(statsDimension)))) {
         return false;
     }
     const TableDimensions dimensions(table, statsDimension);

@@ -1,5 +1,6 @@
 // Laws of the algebra of table expressions.
 
+#include "ctables/recastor/expandeddimensions.h"
 #include "ctables/recastor/parsetree.h"
 #include "tests/support/commandtree.h"
 #include "tests/support/dump.h"
@@ -57,6 +58,21 @@ TEST(NormaliseLaws, MultiplyOutIsTheTextbookProduct) {
             const auto product = ParseTree::MultiplyOut(tree.get());
             RC_ASSERT(DumpTree(product.get()) == ExpressionDump(MultipliedOut(expression)));
             RC_ASSERT(DumpTree(tree.get()) == ExpressionDump(expression));
+        },
+        kCases));
+}
+
+TEST(NormaliseLaws, BasesAreFoundInAProductThatIsNotMade) {
+    EXPECT_TRUE(HoldsAlways(
+        [] {
+            const auto tree = TreeOf(Flattened(*AnyExpression()));
+            const auto bases = TreeFromDump(*rc::gen::element("(VARLIST a)", "(VARLIST b c)"));
+            const auto product = ParseTree::MultiplyOut(tree.get());
+            ExpandedDimensions dimensions;
+            dimensions.SetDimension(0, *tree);
+            const int flag = ParseTree::CheckBaseListInDimension(*product, *bases);
+            RC_TAG(flag);
+            RC_ASSERT(dimensions.FlagOf(0, *bases) == flag);
         },
         kCases));
 }

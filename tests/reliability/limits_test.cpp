@@ -92,6 +92,13 @@ TEST_F(Limits, MoreTermsThanAMachineHoldsAreRefused) {
                                 "many variables."));
 }
 
+TEST_F(Limits, DimensionsWithoutStatisticsAreNotMultipliedOut) {
+    const std::string text =
+        Converted("/OBSERVATION income /TABLE income BY " + Repeated("(a+b)", 1000, ">") +
+                  " /STATISTICS MEAN CPCT(income: a) CPCT(b)");
+    EXPECT_THAT(text, HasSubstr("/TABLE income[S]"));
+}
+
 #ifndef __SANITIZE_ADDRESS__ // which needs more memory than that for itself
 TEST_F(Limits, MemoryThatIsNotThereIsTold) {
     WriteFile(Folder().Path() / "input.syn",
