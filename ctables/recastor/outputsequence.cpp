@@ -24,13 +24,21 @@ void OutputSequence::PushBack(std::string_view text, bool leadingBlank) {
         m_text += ' ';
     }
     m_text += text;
-    m_pieces.push_back({m_text.size(), false});
+    AddPiece(false);
+}
+
+void OutputSequence::AddPiece(bool isNewline) {
+    constexpr std::size_t kFewPieces = 8;
+    if (m_pieces.capacity() == 0) {
+        m_pieces.reserve(kFewPieces);
+    }
+    m_pieces.push_back({m_text.size(), isNewline});
 }
 
 void OutputSequence::PushBackNewline() {
     m_lastNewline = static_cast<std::int64_t>(m_pieces.size());
     m_text += NL_STRING;
-    m_pieces.push_back({m_text.size(), true});
+    AddPiece(true);
 }
 
 void OutputSequence::PushBack(const OutputSequence& other) {

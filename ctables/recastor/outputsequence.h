@@ -63,6 +63,8 @@ private:
         bool isNewline;
     };
 
+    /// Makes a piece of the text behind the last one.
+    void AddPiece(bool isNewline);
     std::size_t CurrentLine() const { return static_cast<std::size_t>(m_lastNewline + 1); }
     std::size_t StartOf(std::size_t piece) const {
         return piece == 0 ? 0 : m_pieces[piece - 1].end;
