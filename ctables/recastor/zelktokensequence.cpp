@@ -19,15 +19,17 @@ public:
 
     void MakeCurrent(std::size_t index) {
         m_curr = index;
-        m_current = index < Count() ? &m_tokenVec[static_cast<int>(index)] : nullptr;
+        SetCurrent(index < Count() ? &m_tokenVec[static_cast<int>(index)] : nullptr);
     }
     /// The current token; null at the end.
     const ZELKToken* Current() const { return m_current; }
+    ZELKToken::TokenType Type() const { return m_type; }
+    ZELKToken::OperatorCode Operator() const { return m_operator; }
     ZELKToken* TakeCurrent() {
         if (m_current == nullptr) {
             return nullptr;
         }
-        m_current = nullptr;
+        SetCurrent(nullptr);
         return m_tokenVec.TakeToken(static_cast<int>(m_curr)).release();
     }
 
@@ -36,7 +38,16 @@ public:
     ZELKTokenVector m_tokenVec;
 
 private:
+    void SetCurrent(const ZELKToken* token) {
+        m_current = token;
+        m_type = token != nullptr ? token->Type() : TokenSequenceBase::kAtEnd;
+        m_operator = token != nullptr ? token->OpCode() : TokenSequenceBase::kNotOperator;
+    }
+
     const ZELKToken* m_current = nullptr;
+    // Of the current token: readers ask for them several times.
+    ZELKToken::TokenType m_type = TokenSequenceBase::kAtEnd;
+    ZELKToken::OperatorCode m_operator = TokenSequenceBase::kNotOperator;
 };
 
 namespace {
@@ -81,13 +92,11 @@ unsigned ZELKTokenSequence::Size() const {
 }
 
 ZELKTokenSequence::TokenType ZELKTokenSequence::Type() const {
-    const ZELKToken* token = m_pImp->Current();
-    return token != nullptr ? token->Type() : kAtEnd;
+    return m_pImp->Type();
 }
 
 ZELKTokenSequence::OperatorCode ZELKTokenSequence::Operator() const {
-    const ZELKToken* token = m_pImp->Current();
-    return token != nullptr ? token->OpCode() : kNotOperator;
+    return m_pImp->Operator();
 }
 
 void ZELKTokenSequence::AsString(const char*& text, unsigned& length) const {
