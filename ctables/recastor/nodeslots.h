@@ -59,6 +59,9 @@ public:
         MoveGapTo(size);
         m_gapSize = 0;
         m_slots.resize(size + count);
+        if (index == size) {
+            return;
+        }
         std::rotate(m_slots.begin() + Offset(index), m_slots.end() - Offset(count), m_slots.end());
         for (std::size_t place = index + count; place < m_slots.size(); ++place) {
             TellPlace(place);

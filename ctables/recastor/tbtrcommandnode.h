@@ -4,6 +4,7 @@
 #include "ctables/recastor/tbtrparsenode.h"
 #include "platform/zelkbase/smallobjects.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace recastor {
@@ -30,10 +31,18 @@ public:
 private:
     using Declarations = SmallHashMap<std::string_view, Declaration>;
 
-    static void AddNames(const TbTrParseNode* list, int type, Declarations& declarations);
-    Declarations ReadDeclarations() const;
+    /// One bit of a few that names are told apart by.
+    static std::uint64_t MarkOf(std::string_view name) {
+        constexpr std::size_t kMarks = 64;
+        const std::size_t last = name.empty() ? 0 : static_cast<unsigned char>(name.back());
+        return std::uint64_t{1} << (7 * name.size() + last) % kMarks;
+    }
+    void AddName(const TbTrParseNode& name, int type) const;
+    void AddNames(const TbTrParseNode* list, int type) const;
+    void ReadDeclarations() const;
 
     mutable Declarations m_declarations; ///< by name; the names are those of the nodes' tokens
+    mutable std::uint64_t m_marks = 0;   ///< of the declared names: most names asked for are none
     mutable bool m_declarationsRead = false;
 };
 

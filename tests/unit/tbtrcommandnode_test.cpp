@@ -42,6 +42,16 @@ TEST(CommandNode, MembersOfGroupsAndUnknownNamesAreNotDeclared) {
     }
 }
 
+TEST(CommandNode, NamesThatLookAlikeAreToldApart) {
+    const TbTrCommandNode& root = ParseRoot("TABLES /OBSERVATION ab x1 x2 /FTOTAL cb /TABLE ab");
+    EXPECT_EQ(root.FindDeclaration("AB").type, TB_OBSERVATION);
+    EXPECT_EQ(root.FindDeclaration("CB").type, TB_FTOTAL);
+    EXPECT_EQ(root.FindDeclaration("X2").type, TB_OBSERVATION);
+    for (const char* name : {"BB", "BA", "B", "AAB", "X3", "Y1", "X"}) {
+        EXPECT_EQ(root.FindDeclaration(name).node, nullptr) << name;
+    }
+}
+
 TEST(CommandNode, FirstDeclarationOfANameCounts) {
     EXPECT_EQ(ParseRoot("TABLES /FTOTAL n /OBSERVATION n /TABLE n").FindDeclaration("N").type,
               TB_FTOTAL);
