@@ -28,13 +28,16 @@ std::size_t WriteCharts(const Sample& sample, Stopwatch& watch) {
         parser chartParser(nullptr, nullptr);
         benchmark::DoNotOptimize(chartParser.Parse(tokens) &&
                                  chartParser.CompleteAndValidateSyntax());
-        iGraphSpec& spec = *chartParser.GetSettings();
+        iGraphSpec* const spec = chartParser.GetSettings();
+        if (spec == nullptr) {
+            continue; // no valid chart
+        }
         watch.Start();
-        benchmark::DoNotOptimize(GGraphCommand({spec.getViewName(),
-                                                spec.getUsedVarName(),
-                                                spec.getChartLooks(),
+        benchmark::DoNotOptimize(GGraphCommand({spec->getViewName(),
+                                                spec->getUsedVarName(),
+                                                spec->getChartLooks(),
                                                 {},
-                                                gplGenerator(spec, nullptr, nullptr).getGPL()}));
+                                                gplGenerator(*spec, nullptr, nullptr).getGPL()}));
         watch.Stop();
     }
     return sample.text.size();
