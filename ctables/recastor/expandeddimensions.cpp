@@ -1,6 +1,7 @@
 #include "ctables/recastor/expandeddimensions.h"
 
 #include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/percentagebase.h"
 #include "platform/zelkbase/zelkassert.h"
 
 namespace recastor {
@@ -42,7 +43,7 @@ int ExpandedDimensions::FlagOf(unsigned slot, const TbTrParseNode& baseList) con
     }
     const TermKinds kinds = KindsOfTerms(*m_dimensions.at(slot), baseList);
     const bool isMixed = kinds.withBase && kinds.withoutBase;
-    const int flag = isMixed ? -1 : static_cast<int>(kinds.withBase);
+    const int flag = isMixed ? kMixed : static_cast<int>(kinds.withBase);
     flags.emplace(&baseList, flag);
     return flag;
 }

@@ -12,8 +12,7 @@ namespace recastor {
 
 namespace {
 
-constexpr unsigned kDimensions = 3;
-constexpr int kMixed = -1;
+constexpr unsigned kDimensions = ExpandedDimensions::kDimensions;
 
 /// The base of a percentage whose base variables stand in the rows, columns and layers as told.
 int BaseOf(bool rows, bool columns, bool layers) {
@@ -43,12 +42,12 @@ std::array<int, kDimensions> FlagsOfDimensions(const TbTrParseNode& term, int st
     std::array<int, kDimensions> baseInDim{};
     for (unsigned ixDim = 0; ixDim < kDimensions; ++ixDim) {
         const TbTrParseNode* const expression = otherDimensions.GetChild(ixDim);
-        if (answering != nullptr && answering->HasDimension(ixDim)) {
+        const bool isAnswered = answering != nullptr && answering->HasDimension(ixDim);
+        if (isAnswered || expression != nullptr) {
             ZELK_ASSERT_AS(ixDim != statsSlot, "ixDim != statsCompDim-1");
-            baseInDim[ixDim] = answering->FlagOf(ixDim, baseList);
-        } else if (expression != nullptr) {
-            ZELK_ASSERT_AS(ixDim != statsSlot, "ixDim != statsCompDim-1");
-            baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(*expression, baseList);
+            baseInDim[ixDim] = isAnswered
+                                   ? answering->FlagOf(ixDim, baseList)
+                                   : ParseTree::CheckBaseListInDimension(*expression, baseList);
         } else if (ixDim == statsSlot) {
             baseInDim[ixDim] = ParseTree::CheckBaseListInDimension(term, baseList);
             ZELK_ASSERT(baseInDim[ixDim] != -1);

@@ -54,17 +54,16 @@ public:
     /// Multiplies the statistics dimension out, in its place in the table.
     TableDimensions(const TbTrParseNode& table, int statsDimension) :
         m_table(table), m_statsDimension(statsDimension) {
-        constexpr int kDimensions = 3;
-        for (int dimension = 1; dimension <= kDimensions; ++dimension) {
-            TbTrParseNode* const expression = table.GetChild(SlotOf(dimension));
+        for (unsigned slot = 0; slot < ExpandedDimensions::kDimensions; ++slot) {
+            TbTrParseNode* const expression = table.GetChild(slot);
             if (expression == nullptr) {
                 continue;
             }
-            m_lastPresent = dimension;
-            if (dimension == statsDimension) {
+            m_lastPresent = static_cast<int>(slot) + 1;
+            if (m_lastPresent == statsDimension) {
                 ParseTree::MultiplyOutInPlace(*expression);
             } else {
-                m_expanded.SetDimension(SlotOf(dimension), *expression);
+                m_expanded.SetDimension(slot, *expression);
             }
         }
     }

@@ -13,4 +13,8 @@ enum PercentageBase : int {
     TBTR_OTHERTABPCT = 16,
 };
 
+/// What is told of a dimension where base variables stand in some of its terms only, instead of 1
+/// (in all) or 0 (in none).
+inline constexpr int kMixed = -1;
+
 } // namespace recastor
