@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <charconv>
 #include <clocale>
 #include <cstddef>
 #include <cstdint>
@@ -77,6 +78,12 @@ constexpr auto gPackedReservedWords = [] {
                    [](const SpellingRow& row) { return PackUpperCased(row.spelling); });
     return packed;
 }();
+
+/// The characters that operators of more than one begin with.
+constexpr CharSet gLongerOpStarts = CharSet::Where([](int code) {
+    return std::any_of(gTwoCharOps.begin(), gTwoCharOps.end(),
+                       [code](const SpellingRow& row) { return row.spelling.front() == code; });
+});
 
 /// The code of `spelling` in `table`, kNotOperator when it has no row.
 template <typename Table>
@@ -256,11 +263,12 @@ bool ScanNumber(MBCharPointer& cursor, int line, double* value) {
             throw ParseError(line, column, ParseError::kBadExponent);
         }
     }
-    if (value == nullptr && !hasExponent && IsPlainNumber(start.Pointer(), cursor.Pointer())) {
-        return true;
-    }
     double number = 0.0;
-    if (!ReadNumber(start.Pointer(), cursor.Pointer(), number)) {
+    if (!hasExponent && IsPlainNumber(start.Pointer(), cursor.Pointer())) {
+        if (value != nullptr) {
+            std::from_chars(start.Pointer(), cursor.Pointer(), number);
+        }
+    } else if (!ReadNumber(start.Pointer(), cursor.Pointer(), number)) {
         cursor = start;
         throw ParseError(line, start.CharacterNumber(), ParseError::kInvalidNumber);
     }
@@ -276,10 +284,8 @@ bool ScanOperator(MBCharPointer& cursor, TokenSequenceBase::OperatorCode& code) 
         return false;
     }
     const char* const first = cursor.Pointer();
+    const bool mayGoOn = gLongerOpStarts.Has(cursor.Code());
     const auto extend = [&](const auto& table) {
-        if (OneCharOperator(cursor.Code()) == Base::kNotOperator) {
-            return false;
-        }
         const auto length = static_cast<std::size_t>(cursor.Pointer() - first) + 1;
         const Base::OperatorCode longer = FindSpelling(table, {first, length});
         if (longer == Base::kNotOperator) {
@@ -290,7 +296,7 @@ bool ScanOperator(MBCharPointer& cursor, TokenSequenceBase::OperatorCode& code) 
         return true;
     };
     cursor.Next();
-    if (extend(gTwoCharOps)) {
+    if (mayGoOn && extend(gTwoCharOps)) {
         extend(gThreeCharOps);
     }
     return true;
