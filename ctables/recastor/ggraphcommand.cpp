@@ -12,12 +12,11 @@ constexpr std::size_t kFrameSize = 256;
 
 /// Appends `text` with each `quote` in it doubled.
 void AppendDoubled(std::string_view text, char quote, std::string& command) {
-    for (const char c : text) {
-        command += c;
-        if (c == quote) {
-            command += quote;
-        }
+    for (auto end = text.find(quote); end != std::string_view::npos; end = text.find(quote)) {
+        command.append(text.substr(0, end + 1)) += quote;
+        text.remove_prefix(end + 1);
     }
+    command += text;
 }
 
 /// The looks make up one name.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
 
 namespace recastor {
 
@@ -33,8 +35,9 @@ void BeginLine(std::string& text, std::string_view keyword,
 } // namespace
 
 std::string GplNumber(double value) {
-    if (value == 0) {
-        return "0"; // of either sign
+    constexpr double kManyUnits = 1e15; // below it every whole number is a double
+    if (std::abs(value) < kManyUnits && value == std::trunc(value)) {
+        return std::to_string(static_cast<std::int64_t>(value)); // zero has no sign
     }
     // The largest number has 309 digits, the smallest 324 behind its period.
     std::array<char, 400> digits{};
@@ -52,8 +55,14 @@ std::string GplString(std::string_view text) {
 }
 
 std::string GplString(const std::vector<std::string>& lines) {
-    std::string quoted = "\"";
-    const char* separator = "";
+    std::size_t size = std::string_view("\"\"").size();
+    for (const std::string& line : lines) {
+        size += std::string_view("\\n").size() + line.size();
+    }
+    std::string quoted;
+    quoted.reserve(size);
+    quoted += '"';
+    std::string_view separator;
     for (const std::string& line : lines) {
         quoted += separator;
         AppendEscaped(quoted, line);
