@@ -6,7 +6,7 @@
 
 namespace recastor {
 
-iGraphSpec::iGraphSpec(ChartModel&& chart) : m_chart(std::move(chart)) {
+iGraphSpec::iGraphSpec(std::unique_ptr<const ChartModel> chart) : m_chart(std::move(chart)) {
     m_errorMessage = WhyChartHasNoGpl(m_facts);
     if (m_errorMessage.empty()) {
         m_variables = GplVariables(m_facts);

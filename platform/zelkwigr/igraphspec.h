@@ -6,6 +6,7 @@
 #include "platform/zelkwigr/chartmodel.h"
 #include "platform/zelkwigr/gplnames.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,8 @@ namespace recastor {
 
 class iGraphSpec {
 public:
-    /// `chart` is valid, with its defaults filled in.
-    explicit iGraphSpec(ChartModel&& chart);
+    /// `chart` is there and valid, with its defaults filled in.
+    explicit iGraphSpec(std::unique_ptr<const ChartModel> chart);
     iGraphSpec(const iGraphSpec&) = delete;
     iGraphSpec& operator=(const iGraphSpec&) = delete;
 
@@ -22,21 +23,21 @@ public:
     GraphSpec* getGGraphSpec() { return &m_graphSpec; }
 
     /// The chart's title in lists; empty when it has none.
-    const std::string& getViewName() const { return m_chart.viewName; }
+    const std::string& getViewName() const { return m_chart->viewName; }
     /// The variables that the data must hold, one blank between.
     std::string getUsedVarName() const { return m_variables.DataNames(); }
-    const std::vector<std::string>& getChartLooks() const { return m_chart.chartLooks; }
+    const std::vector<std::string>& getChartLooks() const { return m_chart->chartLooks; }
     /// Why there is no GPL for this chart: a comment command. Empty when there is.
     const std::string& errorMessage() const { return m_errorMessage; }
 
-    const ChartModel& Chart() const { return m_chart; }
+    const ChartModel& Chart() const { return *m_chart; }
     const ChartFacts& Facts() const { return m_facts; }
     /// The variables that the GPL names; none when there is no GPL.
     const GplVariables& Variables() const { return m_variables; }
 
 private:
-    ChartModel m_chart;
-    ChartFacts m_facts{m_chart};
+    std::unique_ptr<const ChartModel> m_chart;
+    ChartFacts m_facts{*m_chart};
     GraphSpec m_graphSpec;
     std::string m_errorMessage;
     GplVariables m_variables;

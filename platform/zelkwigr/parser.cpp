@@ -12,16 +12,17 @@ namespace recastor {
 parser::parser(ProcedureDataSource* /*data*/, FacSTDictionary* /*dictionary*/) {}
 
 bool parser::Parse(TokenSequenceBase& tokens) {
-    return ParseChart(tokens, m_chart.emplace());
+    m_chart = std::make_unique<ChartModel>();
+    return ParseChart(tokens, *m_chart);
 }
 
 bool parser::CompleteAndValidateSyntax() {
-    ZELK_ASSERT(m_chart);
+    ZELK_ASSERT_AS(m_chart != nullptr, "m_chart");
     CompleteChart(*m_chart);
     if (!IsValidChart(*m_chart)) {
         return false;
     }
-    m_settings.emplace(std::move(*m_chart));
+    m_settings.emplace(std::move(m_chart));
     return true;
 }
 

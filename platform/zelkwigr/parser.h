@@ -4,6 +4,7 @@
 #include "platform/zelkwigr/igraphspec.h"
 #include "platform/zelkwigr/opaquetypes.h"
 
+#include <memory>
 #include <optional>
 
 namespace recastor {
@@ -27,7 +28,7 @@ public:
     iGraphSpec* GetSettings() { return m_settings ? &*m_settings : nullptr; }
 
 private:
-    std::optional<ChartModel> m_chart; ///< of the last command that was parsed
+    std::unique_ptr<ChartModel> m_chart; ///< of a command that is parsed and not yet complete
     std::optional<iGraphSpec> m_settings;
 };
 

@@ -7,6 +7,8 @@
 #include "platform/zelkwigr/parser.h"
 #include "tests/support/charts.h"
 
+#include <memory>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -19,7 +21,7 @@ using testing::IsEmpty;
 
 std::vector<std::string> TemplatesOf(const ChartModel& chart) {
     doPostProcessing postProcessing(nullptr, nullptr, nullptr);
-    postProcessing.process(iGraphSpec(ChartModel(chart)));
+    postProcessing.process(iGraphSpec(std::make_unique<ChartModel>(chart)));
     return postProcessing.getImmediateTemplates();
 }
 
@@ -34,7 +36,7 @@ TEST(IGraphSpec, TellsWhatTheChartSays) {
     ChartModel chart = ChartOf(MeanBar());
     chart.viewName = "Means";
     chart.chartLooks = {"one", "two"};
-    iGraphSpec spec{ChartModel(chart)};
+    iGraphSpec spec(std::make_unique<ChartModel>(chart));
     EXPECT_EQ(spec.getViewName(), "Means");
     EXPECT_THAT(spec.getChartLooks(), ElementsAre("one", "two"));
     EXPECT_EQ(spec.getUsedVarName(), "x y");
@@ -45,7 +47,7 @@ TEST(IGraphSpec, TellsWhatTheChartSays) {
 TEST(IGraphSpec, AChartWithoutGplHasAMessageAndNoText) {
     ChartModel chart = PieChart();
     chart.elements.emplace_back(Pie());
-    iGraphSpec spec{ChartModel(chart)};
+    iGraphSpec spec(std::make_unique<ChartModel>(chart));
     EXPECT_EQ(spec.errorMessage(), "*IGRAPH command with PIE and another element cannot be "
                                    "converted: a pie has no axes to share.");
     EXPECT_EQ(gplGenerator(spec, nullptr, nullptr).getGPL(), "");
@@ -61,10 +63,11 @@ TEST(DoPostProcessing, PanelsOfOneVariableAreWrapped) {
 
 TEST(DoPostProcessing, ForgetsTheGraphBefore) {
     doPostProcessing postProcessing(nullptr, nullptr, nullptr);
-    postProcessing.process(iGraphSpec(Panelled(ChartOf(MeanBar()), {Named("p")})));
-    postProcessing.process(iGraphSpec(Panelled(ChartOf(MeanBar()), {Named("p")})));
+    const ChartModel panelled = Panelled(ChartOf(MeanBar()), {Named("p")});
+    postProcessing.process(iGraphSpec(std::make_unique<ChartModel>(panelled)));
+    postProcessing.process(iGraphSpec(std::make_unique<ChartModel>(panelled)));
     EXPECT_THAT(postProcessing.getImmediateTemplates(), ElementsAre("<setWrapPanels/>"));
-    postProcessing.process(iGraphSpec(ChartOf(MeanBar())));
+    postProcessing.process(iGraphSpec(std::make_unique<ChartModel>(ChartOf(MeanBar()))));
     EXPECT_THAT(postProcessing.getImmediateTemplates(), IsEmpty());
 }
 

@@ -78,11 +78,11 @@ TEST(ParseIgraph, AChartWithoutGplSaysWhy) {
 
 TEST(ParseIgraph, AGraphWithoutAViewNameIsListedAsInteractive) {
     ChartModel chart;
-    iGraphSpec unnamed{ChartModel(chart)};
+    iGraphSpec unnamed(std::make_unique<ChartModel>(chart));
     LabelOutput(unnamed);
     EXPECT_EQ(unnamed.getGGraphSpec()->OutputLabel(), "Interactive Graph");
     chart.viewName = "Heights";
-    iGraphSpec named(std::move(chart));
+    iGraphSpec named(std::make_unique<ChartModel>(chart));
     LabelOutput(named);
     EXPECT_EQ(named.getGGraphSpec()->OutputLabel(), "Heights");
     EXPECT_EQ(named.getViewName(), "Heights");
