@@ -3,6 +3,9 @@
 #include "platform/zelkwigr/chartlabels.h"
 
 #include <array>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace recastor {
 
@@ -82,8 +85,7 @@ public:
 
 private:
     void Lines(const char* name, const std::vector<std::string>& lines);
-    void Dimension(const char* name, const ChartDimension* dimension,
-                   const std::vector<std::string>& label);
+    void Dimension(const char* name, const ChartDimension* dimension, std::string_view untitled);
     void Dimension(const char* name, const std::optional<ChartDimension>& dimension);
     void NameOf(const char* name, const ChartDimension* dimension);
     void Panels();
@@ -105,15 +107,16 @@ void ChartPainter::Lines(const char* name, const std::vector<std::string>& lines
     m_json.EndArray();
 }
 
+/// `untitled` is what the dimension is called when it has no title.
 void ChartPainter::Dimension(const char* name, const ChartDimension* dimension,
-                             const std::vector<std::string>& label) {
+                             std::string_view untitled) {
     m_json.Key(name);
     if (dimension == nullptr) {
         m_json.Null();
         return;
     }
-    std::string text;
-    for (const std::string& line : label) {
+    std::string text = dimension->title.empty() ? m_decode(untitled) : "";
+    for (const std::string& line : dimension->title) {
         text += (text.empty() ? "" : " ") + m_decode(line);
     }
     m_json.BeginObject();
@@ -125,7 +128,7 @@ void ChartPainter::Dimension(const char* name, const ChartDimension* dimension,
 
 void ChartPainter::Dimension(const char* name, const std::optional<ChartDimension>& dimension) {
     Dimension(name, Find(dimension),
-              dimension ? DimensionLabel(*dimension) : std::vector<std::string>());
+              dimension ? VariableLabel(dimension->variable) : std::string_view());
 }
 
 /// Which of the chart's dimensions it is.

@@ -33,7 +33,7 @@ FirstSummary FindFirstSummary(const ChartFacts& facts) {
 
 } // namespace
 
-std::string VariableLabel(const ChartVariable& variable) {
+std::string_view VariableLabel(const ChartVariable& variable) {
     switch (variable.builtIn) {
     case BuiltIn::kCount:
         return "Count";
@@ -44,24 +44,16 @@ std::string VariableLabel(const ChartVariable& variable) {
     }
 }
 
-std::vector<std::string> DimensionLabel(const ChartDimension& dimension) {
-    return dimension.title.empty() ? std::vector{VariableLabel(dimension.variable)}
-                                   : dimension.title;
-}
-
-std::vector<std::string> MeasureLabel(const ChartFacts& facts) {
+std::string MeasureLabel(const ChartFacts& facts) {
     const FirstSummary first = FindFirstSummary(facts);
-    if (!facts.y->title.empty()) {
-        return facts.y->title;
-    }
     if (first.isNormalized) {
-        return {"Percent"};
+        return "Percent";
     }
-    const std::string name = VariableLabel(facts.y->variable);
-    if (first.function == nullptr || IsCounted(facts.y->variable)) {
-        return {name};
+    std::string label;
+    if (first.function != nullptr && !IsCounted(facts.y->variable)) {
+        label = SummaryAxisText(FunctionOf(*first.function)) + ' ';
     }
-    return {SummaryAxisText(FunctionOf(*first.function)) + ' ' + name};
+    return label += VariableLabel(facts.y->variable);
 }
 
 } // namespace recastor

@@ -4,17 +4,14 @@
 #include "platform/zelkwigr/chartfacts.h"
 
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace recastor {
 
-/// The name of a variable that has no title.
-std::string VariableLabel(const ChartVariable& variable);
+/// What a variable is called that has no title: its name, which the text belongs to, or a word.
+std::string_view VariableLabel(const ChartVariable& variable);
 
-/// The lines of a dimension's title; the name of its variable when it has none.
-std::vector<std::string> DimensionLabel(const ChartDimension& dimension);
-
-/// The same of the chart's Y. Without a title it tells what is summarised: `Mean salary`.
-std::vector<std::string> MeasureLabel(const ChartFacts& facts);
+/// What Y is called when it has no title. It tells what is summarised: `Mean salary`.
+std::string MeasureLabel(const ChartFacts& facts);
 
 } // namespace recastor

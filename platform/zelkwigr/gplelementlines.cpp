@@ -67,6 +67,12 @@ std::string Labels(const ElementLabels& labels, const std::string& slice,
     return text;
 }
 
+/// The labels of an element that shows a summary of the measure.
+std::string SummaryLabels(const GplChart& chart, const ElementLabels& labels,
+                          const std::optional<SummaryFunction>& function) {
+    return Labels(labels, {}, labels.value ? ValueLabel(chart, function) : std::string());
+}
+
 struct InterpolationRow {
     Interpolation interpolation;
     const char* smoother; ///< none where the points are joined as they are
@@ -115,7 +121,7 @@ void AppendElement(const GplChart& chart, const Bar& bar, std::string& text) {
     Layer layer = FilledLayer(chart);
     layer.kind = chart.Facts().stacked ? "interval.stack" : "interval";
     layer.position = Summary(chart, bar.function, ElementKind::kBar);
-    layer.labels = Labels(bar.labels, {}, ValueLabel(chart, bar.function));
+    layer.labels = SummaryLabels(chart, bar.labels, bar.function);
     AppendLayer(layer, text);
 }
 
@@ -123,7 +129,7 @@ void AppendElement(const GplChart& chart, const Area& area, std::string& text) {
     Layer layer = FilledLayer(chart);
     layer.kind = chart.Facts().grouped ? "area.stack" : "area";
     Interpolate(area.interpolation, Summary(chart, area.function, ElementKind::kArea), layer);
-    layer.labels = Labels(area.labels, {}, ValueLabel(chart, area.function));
+    layer.labels = SummaryLabels(chart, area.labels, area.function);
     layer.missing = Missing(area.breaks);
     AppendLayer(layer, text);
 }
@@ -133,7 +139,7 @@ void AppendElement(const GplChart& chart, const Line& line, std::string& text) {
     const bool hasLine = line.style != Line::Style::kDot;
     const bool hasPoint = line.style != Line::Style::kLine;
     const std::string summary = Summary(chart, line.function, ElementKind::kLine);
-    const std::string labels = Labels(line.labels, {}, ValueLabel(chart, line.function));
+    const std::string labels = SummaryLabels(chart, line.labels, line.function);
     if (hasLine) {
         Layer layer = PointedLayer(chart, Values::kSummarised);
         layer.kind = "line";

@@ -12,7 +12,12 @@ namespace recastor {
 namespace {
 
 std::string DimensionTitle(const ChartDimension& dimension) {
-    return GplString(DimensionLabel(dimension));
+    return dimension.title.empty() ? GplString(VariableLabel(dimension.variable))
+                                   : GplString(dimension.title);
+}
+
+std::string MeasureTitle(const ChartFacts& facts) {
+    return facts.y->title.empty() ? GplString(MeasureLabel(facts)) : GplString(facts.y->title);
 }
 
 /// `title` is a string, `place` what follows the title with its comma.
@@ -33,7 +38,7 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
         if (facts.chart.x2) {
             AppendAxis(dimensions.x2, DimensionTitle(*facts.chart.x2), "", text);
         }
-        AppendAxis(dimensions.measure, GplString(MeasureLabel(facts)), "", text);
+        AppendAxis(dimensions.measure, MeasureTitle(facts), "", text);
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : facts.chart.panels) {

@@ -4,22 +4,23 @@
 #include "platform/zelkwigr/gplchart.h"
 
 #include <string>
+#include <string_view>
 
 namespace recastor {
 
 /// A kind of element, its position, and the functions behind it in their order; those that are
-/// empty are left out.
+/// empty are left out. The views are of fixed words.
 struct Layer {
-    std::string kind;
+    std::string_view kind;
     std::string position;
     std::string color;
     std::string surface; ///< pattern or shape, after STYLE
     std::string size;
     std::string split;
     std::string labels;
-    std::string shape; ///< of the element itself
-    std::string jump;
-    std::string missing;
+    std::string_view shape; ///< of the element itself
+    std::string_view jump;
+    std::string_view missing;
 };
 
 /// What one point of an element stands for: one case or many.

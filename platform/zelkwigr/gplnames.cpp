@@ -113,6 +113,12 @@ private:
 
 } // namespace
 
+GplNames::GplNames() {
+    constexpr std::size_t kUsualCount = 4; // the source's name and those of few variables
+    m_taken.reserve(kUsualCount);
+    m_taken.emplace_back("s");
+}
+
 std::string GplNames::Free(std::string_view base, std::string_view suffix) const {
     const auto isTaken = [this](const std::string& name) {
         return std::any_of(m_taken.begin(), m_taken.end(),

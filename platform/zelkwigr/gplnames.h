@@ -13,6 +13,8 @@ namespace recastor {
 /// source's own name is one of them.
 class GplNames {
 public:
+    GplNames();
+
     /// `base` made a GPL name, with `suffix` behind it, and `_2`, `_3`, ... when that is taken.
     std::string Free(std::string_view base, std::string_view suffix = {}) const;
 
@@ -20,7 +22,7 @@ public:
     std::string Take(std::string_view base, std::string_view suffix = {});
 
 private:
-    std::vector<std::string> m_taken{"s"};
+    SmallVector<std::string> m_taken;
 };
 
 /// True when a chart's lines name a variable that the data must hold.

@@ -5,9 +5,9 @@
 #include "platform/zelkwigr/gpltext.h"
 
 #include <algorithm>
-#include <utility>
+#include <optional>
+#include <string>
 #include <variant>
-#include <vector>
 
 namespace recastor {
 
@@ -108,51 +108,41 @@ Scale PieScale(const ChartFacts& facts) {
     return {"linear", "dataMinimum()", "dataMaximum()", pie.counterClockwise ? "reverse()" : ""};
 }
 
-struct DimensionScale {
-    int dimension;
-    Scale scale;
-};
-
-/// The scales of the dimensions that axes and panels take up, by their numbers. Most have none.
-std::vector<DimensionScale> DimensionScales(const ChartFacts& facts) {
+/// The scale of the axis that has the dimension's number.
+Scale AxisScale(const ChartFacts& facts, int dimension) {
     const ChartModel& chart = facts.chart;
     const DimensionNumbers& dimensions = facts.dimensions;
-    std::vector<DimensionScale> scales;
-    const auto add = [&scales](int dimension, Scale scale) {
-        if (scale.function != nullptr) {
-            scales.push_back({dimension, std::move(scale)});
-        }
-    };
-    if (facts.form == ChartForm::kPie) {
-        add(dimensions.measure, PieScale(facts));
-    } else {
-        add(dimensions.measure, YScale(facts));
-        if (chart.x1) {
-            add(dimensions.x1, ScaleOf(chart, *chart.x1));
-        }
-        if (chart.x2) {
-            add(dimensions.x2, ScaleOf(chart, *chart.x2));
-        }
-        if (facts.form == ChartForm::kClustered) {
-            add(dimensions.cluster, ScaleOf(chart, *facts.cluster));
-        }
+    if (dimension == dimensions.measure) {
+        return facts.form == ChartForm::kPie ? PieScale(facts) : YScale(facts);
     }
-    int panelDimension = dimensions.firstPanel;
-    for (const ChartVariable& panel : chart.panels) {
-        add(panelDimension, CategoryScale(chart, panel));
-        ++panelDimension;
+    if (dimension == dimensions.cluster) {
+        return ScaleOf(chart, *facts.cluster);
     }
-    std::sort(scales.begin(), scales.end(),
-              [](const auto& left, const auto& right) { return left.dimension < right.dimension; });
-    return scales;
+    const auto& axis = dimension == dimensions.x1 ? chart.x1 : chart.x2;
+    return axis ? ScaleOf(chart, *axis) : Scale();
+}
+
+/// The line of a dimension's scale, if it has one.
+void AppendDimensionScale(int dimension, const Scale& scale, std::string& text) {
+    if (scale.function != nullptr) {
+        AppendScale("dim(" + std::to_string(dimension) + ')', scale, text);
+    }
 }
 
 } // namespace
 
 void AppendScaleLines(const GplChart& chart, std::string& text) {
     const ChartFacts& facts = chart.Facts();
-    for (const auto& [dimension, scale] : DimensionScales(facts)) {
-        AppendScale(GplCall("dim", {std::to_string(dimension)}), scale, text);
+    const DimensionNumbers& dimensions = facts.dimensions;
+    const int axes =
+        std::max({dimensions.measure, dimensions.x1, dimensions.x2, dimensions.cluster});
+    for (int dimension = 1; dimension <= axes; ++dimension) {
+        AppendDimensionScale(dimension, AxisScale(facts, dimension), text);
+    }
+    int panelDimension = dimensions.firstPanel;
+    for (const ChartVariable& panel : facts.chart.panels) {
+        AppendDimensionScale(panelDimension, CategoryScale(facts.chart, panel), text);
+        ++panelDimension;
     }
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const Scale scale = ScaleOf(facts.chart, *shown.dimension);
