@@ -5,6 +5,7 @@
 #include "ctables/recastor/abbreviation.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
+#include "ctables/recastor/tbtrnamelistnode.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <algorithm>
@@ -130,14 +131,7 @@ const TbTrParseNode* ArgumentLabel(const TbTrParseNode& argument) {
 }
 
 const TbTrParseNode* FindArgument(const TbTrParseNode* arguments, const std::string& name) {
-    for (unsigned i = 0; arguments != nullptr && i < arguments->GetChildCount(); ++i) {
-        const TbTrParseNode* const argument = arguments->GetChild(i);
-        const TbTrParseNode* const variable = ArgumentVariable(*argument);
-        if (variable != nullptr && IsSameName(TokenOf(*variable), name)) {
-            return argument;
-        }
-    }
-    return nullptr;
+    return arguments != nullptr ? FindInNameList(*arguments, name) : nullptr;
 }
 
 const TbTrParseNode* ParseTree::GetStatFunction(const TbTrParseNode& table,

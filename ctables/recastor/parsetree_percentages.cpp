@@ -4,6 +4,7 @@
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/percentagebase.h"
+#include "ctables/recastor/tbtrnamelistnode.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <array>
@@ -106,13 +107,7 @@ int ParseTree::CheckBaseListInDimension(const TbTrParseNode& expression,
 
 int ParseTree::CheckBaseListInVariable(const TbTrParseNode& variable,
                                        const TbTrParseNode& baseList) {
-    const ZELKToken& token = TokenOf(variable);
-    for (unsigned i = 0; i < baseList.GetChildCount(); ++i) {
-        if (IsSameName(token, TokenOf(*baseList.GetChild(i)).AsString(false))) {
-            return 1;
-        }
-    }
-    return 0;
+    return FindInNameList(baseList, TokenOf(variable).AsString(false)) != nullptr ? 1 : 0;
 }
 
 int ParseTree::CheckBaseListInSubtree(const TbTrParseNode& subtree, const TbTrParseNode& baseList) {

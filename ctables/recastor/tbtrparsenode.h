@@ -14,6 +14,7 @@ namespace recastor {
 
 class ExpandedDimensions;
 class TbTrCommandNode;
+class TbTrNameListNode;
 
 /// A node: a type of TbTrNodeType, the token that it stands for (keyword and structural nodes have
 /// none) and children in order. A node owns its token and its children. A child slot may hold
@@ -66,6 +67,8 @@ public:
     virtual void Print(std::ostream& out, int level) const;
     /// This node when it is the root of a parsed command; null for every other node.
     virtual const TbTrCommandNode* AsCommandNode() const { return nullptr; }
+    /// This node when it is a list that finds its children by name; null for every other node.
+    virtual const TbTrNameListNode* AsNameList() const { return nullptr; }
     /// This node when it holds the expanded dimensions of a table; null for every other node.
     virtual const ExpandedDimensions* AsExpandedDimensions() const { return nullptr; }
 

@@ -22,6 +22,15 @@ std::string Repeated(const std::string& piece, int count, const std::string& sep
     return text;
 }
 
+/// v0, v1 and so on.
+std::string DifferentNames(int count, const std::string& separator = " ") {
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += (i > 0 ? separator : "") + 'v' + std::to_string(i);
+    }
+    return text;
+}
+
 class Limits : public testing::Test {
 protected:
     /// The lines that the program writes in place of a TABLES command with these arguments. The
@@ -100,6 +109,21 @@ TEST_F(Limits, DimensionsWithoutStatisticsAreNotMultipliedOut) {
 }
 
 #ifndef __SANITIZE_ADDRESS__ // which needs more memory than that for itself
+TEST_F(Limits, HundredThousandNamedArgumentsAreFound) {
+    const std::string list = DifferentNames(100000);
+    const std::string text =
+        Converted("/OBSERVATION " + list + " /TABLE x BY " + DifferentNames(100000, "+") +
+                  " /STATISTICS MEAN(" + list + ')');
+    EXPECT_THAT(text, HasSubstr("v0[S][MEAN]+v1[S][MEAN]"));
+    EXPECT_THAT(text, HasSubstr("v99999[S][MEAN]\n  /CATEGORIES"));
+}
+
+TEST_F(Limits, HundredThousandBaseVariablesAreFound) {
+    const std::string text = Converted("/TABLE x BY " + DifferentNames(100000, "+") +
+                                       " /STATISTICS CPCT(x:" + DifferentNames(100000) + ')');
+    EXPECT_THAT(text, HasSubstr("x[C][COLPCT.VALIDN] BY v0[C]+v1[C]"));
+}
+
 TEST_F(Limits, MemoryThatIsNotThereIsTold) {
     WriteFile(Folder().Path() / "input.syn",
               "TITLE 'first'.\nTABLES /TABLE " + Repeated("a", 1000000, "+") + ".\n");

@@ -1,5 +1,6 @@
 #include "ctables/recastor/bison/buildervalues.h"
 
+#include "ctables/recastor/tbtrnamelistnode.h"
 #include "platform/zelkbase/zelkassert.h"
 
 #include <memory>
@@ -29,7 +30,8 @@ OpaqueValue NodeValue(TbTrParseNode* node) {
 
 OpaqueValue AppendToList(OpaqueValue list, int listType, OpaqueValue element) {
     if (OpaqueValue_IsEmpty(list)) {
-        list = NodeValue(new TbTrParseNode(listType, nullptr));
+        list = NodeValue(listType == TBI_VARLIST ? new TbTrNameListNode(listType)
+                                                 : new TbTrParseNode(listType, nullptr));
     }
     ZELK_ASSERT(OpaqueValue_CheckParseNode(list, listType));
     TbTrParseNode* const node = OpaqueValue_GiveUpParseNode(list);

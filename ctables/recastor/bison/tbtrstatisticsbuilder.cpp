@@ -2,6 +2,7 @@
 
 #include "ctables/recastor/bison/buildervalues.h"
 #include "ctables/recastor/bison/tbtrparsebuilder.h"
+#include "ctables/recastor/tbtrnamelistnode.h"
 #include "platform/zelkbase/zelkassert.h"
 
 namespace recastor {
@@ -134,6 +135,9 @@ OpaqueValue statistics_statFormat(OpaqueValue word) {
 }
 
 OpaqueValue statistics_statArgVarSpecList(OpaqueValue list, OpaqueValue spec) {
+    if (OpaqueValue_IsEmpty(list)) {
+        list = NodeValue(new TbTrNameListNode(TBI_GENERICLIST));
+    }
     return AppendToList(list, TBI_GENERICLIST, spec);
 }
 
