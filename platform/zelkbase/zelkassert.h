@@ -2,7 +2,8 @@
 ///
 /// A failed check names the condition, the function and the source unit on standard error and
 /// aborts. The checks stay on in release builds: a converter that goes on after its own mistake
-/// would write a wrong file. Input errors are never checked this way; they are reported.
+/// would write a wrong file. Input errors are reported, not checked this way; one is, on purpose:
+/// FORMAT with both BLANK and ZERO, which has always stopped the program.
 #pragma once
 
 #include <functional>
