@@ -15,9 +15,9 @@ namespace recastor {
 namespace {
 
 /// The start of a word that is ASCII, upper-cased: as much of it as can matter.
-class UpperCased {
+class WordStart {
 public:
-    explicit UpperCased(std::string_view word) : m_length(std::min(word.size(), m_start.size())) {
+    explicit WordStart(std::string_view word) : m_length(std::min(word.size(), m_start.size())) {
         std::transform(word.begin(), word.begin() + m_length, m_start.begin(), [](char c) {
             return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
         });
@@ -35,14 +35,14 @@ std::optional<Opening> QuickOpening(std::string_view text, bool batch) {
     if (!tokens) {
         return std::nullopt;
     }
-    const UpperCased first(tokens->first);
+    const WordStart first(tokens->first);
     int state = kStateStart;
     SwitchCommandState(state, first.Text());
     if (state == kStateBegin) {
         if (tokens->secondWord.empty()) {
             return std::nullopt;
         }
-        SwitchCommandState(state, UpperCased(tokens->secondWord).Text());
+        SwitchCommandState(state, WordStart(tokens->secondWord).Text());
     }
     return Opening{KindOfCommand(state), true, Abbreviation(first.Text()), tokens->areWhole};
 }

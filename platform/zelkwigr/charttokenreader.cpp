@@ -4,9 +4,9 @@ namespace recastor {
 
 namespace {
 
-using Text = void (TokenSequenceBase::*)(const char*&, unsigned&) const;
+using GetText = void (TokenSequenceBase::*)(const char*&, unsigned&) const;
 
-std::string_view TextOf(const TokenSequenceBase& tokens, Text text) {
+std::string_view TextOf(const TokenSequenceBase& tokens, GetText text) {
     const char* first = nullptr;
     unsigned length = 0;
     (tokens.*text)(first, length);

@@ -79,7 +79,7 @@ struct InterpolationRow {
     const char* jump = "";
 };
 
-constexpr InterpolationRow kInterpolations[] = {
+constexpr InterpolationRow kSmoothers[] = {
     {Interpolation::kStraight, nullptr},
     {Interpolation::kLeftStep, "smooth.step"},
     {Interpolation::kCenterStep, "smooth.step.center"},
@@ -94,7 +94,7 @@ constexpr InterpolationRow kInterpolations[] = {
 
 /// Lays the interpolation over a summary: the position and the jumps.
 void Interpolate(Interpolation interpolation, const std::string& summary, Layer& layer) {
-    for (const InterpolationRow& row : kInterpolations) {
+    for (const InterpolationRow& row : kSmoothers) {
         if (row.interpolation == interpolation) {
             layer.position = row.smoother != nullptr ? GplCall(row.smoother, {summary}) : summary;
             layer.jump = row.jump;

@@ -23,8 +23,8 @@ std::string ShownValue(const GplChart& chart, const ChartDimension& dimension, V
 }
 
 /// `function` of what the dimension shows; empty without one.
-std::string Aesthetic(const GplChart& chart, const char* function, const ChartDimension* dimension,
-                      Values values) {
+std::string AestheticCall(const GplChart& chart, const char* function,
+                          const ChartDimension* dimension, Values values) {
     return dimension == nullptr ? std::string()
                                 : GplCall(function, {ShownValue(chart, *dimension, values)});
 }
@@ -34,18 +34,18 @@ std::string Aesthetic(const GplChart& chart, const char* function, const ChartDi
 Layer FilledLayer(const GplChart& chart) {
     const ChartFacts& facts = chart.Facts();
     Layer layer;
-    layer.color = Aesthetic(chart, "color.interior", facts.color, Values::kSummarised);
-    layer.surface =
-        Aesthetic(chart, "texture.pattern.interior", Find(facts.chart.style), Values::kSummarised);
+    layer.color = AestheticCall(chart, "color.interior", facts.color, Values::kSummarised);
+    layer.surface = AestheticCall(chart, "texture.pattern.interior", Find(facts.chart.style),
+                                  Values::kSummarised);
     return layer;
 }
 
 Layer PointedLayer(const GplChart& chart, Values values) {
     const ChartFacts& facts = chart.Facts();
     Layer layer;
-    layer.color = Aesthetic(chart, "color.interior", facts.color, values);
-    layer.surface = Aesthetic(chart, "shape.interior", Find(facts.chart.style), values);
-    layer.size = Aesthetic(chart, "size", Find(facts.chart.size), values);
+    layer.color = AestheticCall(chart, "color.interior", facts.color, values);
+    layer.surface = AestheticCall(chart, "shape.interior", Find(facts.chart.style), values);
+    layer.size = AestheticCall(chart, "size", Find(facts.chart.size), values);
     return layer;
 }
 

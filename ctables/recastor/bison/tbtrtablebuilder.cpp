@@ -72,7 +72,7 @@ int PseudoVariable(const ZELKToken& word) {
 }
 
 /// The node of a word that may have become one already.
-TbTrParseNode* WordNode(OpaqueValue word) {
+TbTrParseNode* NodeOfItem(OpaqueValue word) {
     if (OpaqueValue_IsZELKToken(word)) {
         word = table_tableItem(word);
     }
@@ -102,7 +102,7 @@ bool table_specialTableItem(OpaqueValue& result, OpaqueValue leftParen, OpaqueVa
                             OpaqueValue rightParen) {
     DropValues(leftParen, rightParen);
     result = common_nothing();
-    std::unique_ptr<TbTrParseNode> node(WordNode(word));
+    std::unique_ptr<TbTrParseNode> node(NodeOfItem(word));
     const int pseudoVariable = PseudoVariable(*node->GetToken());
     if (pseudoVariable != 0) {
         result = NodeValue(TbTrParseNode::MakeAttrNode(pseudoVariable, nullptr));
