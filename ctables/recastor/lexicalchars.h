@@ -3,6 +3,7 @@
 
 #include "ctables/recastor/mbcharpointer.h"
 
+#include <cstddef>
 #include <string>
 
 namespace recastor {
@@ -37,6 +38,10 @@ constexpr bool IsInvalidUnquoted(int code) {
 constexpr bool CanStartNumber(int code) {
     return IsDigit(code) || code == '.';
 }
+
+/// A number of so many digits, with or without a point and without exponent, is within the range of
+/// doubles whatever its digits are.
+inline constexpr std::size_t kSafeDigits = 300;
 
 /// The apostrophe or the double quote.
 constexpr bool IsQuote(int code) {

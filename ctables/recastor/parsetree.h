@@ -141,8 +141,10 @@ public:
     static TbTrParseNode::NodePtr MultiplyOut(const TbTrParseNode* expression);
     /// The same without a copy; the expression keeps its place in its tree.
     static void MultiplyOutInPlace(TbTrParseNode& expression);
-    /// Takes the pseudo-variables STATISTICS (or LABELS) out of the table. The dimension where one
-    /// stood; 4 when they stood in several, 0 when there was none.
+    /// What RemovePseudoVariables answers when they stood in several dimensions.
+    static constexpr int kSeveralDimensions = 4;
+    /// Takes the pseudo-variables STATISTICS (or LABELS) out of the table. The dimension (from 1)
+    /// where one stood; 0 when there was none.
     static int RemovePseudoVariables(TbTrParseNode& table, bool statistics);
     /// Takes a node out of its dimension and deletes it; an operation that is left with one
     /// operand dissolves.

@@ -237,7 +237,6 @@ int ParseTree::RemovePseudoVariables(TbTrParseNode& table, bool statistics) {
     if (table.GetNodeType() != TB_TABLE) {
         return 0;
     }
-    constexpr int kSeveralDimensions = 4;
     const int type = statistics ? TB_STATISTICS : TB_LABELS;
     const unsigned nDim = table.GetChildCount();
     ZELK_ASSERT(0 < nDim && nDim <= 3);

@@ -15,8 +15,7 @@ namespace {
 
 /// A pseudo-variable that stands in several dimensions counts as standing in none.
 int SingleDimension(int dimension) {
-    constexpr int kSeveralDimensions = 4;
-    return dimension == kSeveralDimensions ? 0 : dimension;
+    return dimension == ParseTree::kSeveralDimensions ? 0 : dimension;
 }
 
 unsigned SlotOf(int dimension) {
@@ -74,7 +73,6 @@ public:
 
     /// Writes the dimensions, joined by BY; an absent one before the last leaves its BY.
     bool Express(const TbTrParseNode*& firstMagnet, OutputSequence& output) const {
-        constexpr std::size_t kLineLength = 78;
         for (int dimension = 1; dimension <= m_lastPresent; ++dimension) {
             if (dimension > 1) {
                 output.PushBack(" BY ", false);
@@ -88,9 +86,7 @@ public:
                                              firstMagnet, output)) {
                 return false;
             }
-            if (output.Length() <= kLineLength) {
-                output.Fuse();
-            }
+            output.FuseShortLine();
         }
         return true;
     }

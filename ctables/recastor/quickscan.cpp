@@ -146,14 +146,14 @@ const char* BehindLiteral(const char* place, const char* end) {
 
 /// Behind a number that has neither an exponent nor very many digits, and is not hexadecimal.
 const char* BehindNumber(const char* first, const char* end) {
-    constexpr std::ptrdiff_t kFewDigits = 300;
     const char* place = Skip(first, end, gDigits);
     if (place != end && *place == '.') {
         place = Skip(place + 1, end, gDigits);
     }
     constexpr std::string_view unclear = "EeXx";
     const bool clear = place == end || unclear.find(*place) == std::string_view::npos;
-    return clear && place - first <= kFewDigits ? place : nullptr;
+    const bool isShort = static_cast<std::size_t>(place - first) <= kSafeDigits;
+    return clear && isShort ? place : nullptr;
 }
 
 /// Behind the token at `place` when it is surely well-formed, or behind a part of it; else null.
@@ -249,9 +249,6 @@ bool MayHoldFaultyToken(std::string_view text) {
     });
 }
 
-/// Fewer digits than a number may have that needs no closer look.
-constexpr std::size_t kFewCharacters = 300;
-
 } // namespace
 
 std::optional<int> QuickEndOfCommand(std::string_view line) {
@@ -275,7 +272,7 @@ std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
 }
 
 bool QuickCheckTokens(std::string_view text) {
-    if (text.size() <= kFewCharacters && text.ends_with('\n') && !MayHoldFaultyToken(text)) {
+    if (text.size() <= kSafeDigits && text.ends_with('\n') && !MayHoldFaultyToken(text)) {
         return true;
     }
     const char* const end = text.data() + text.size();

@@ -170,9 +170,8 @@ private:
 
 /// Whether [first, end), digits with or without a point, needs no reading to be a valid number.
 bool IsPlainNumber(const char* first, const char* end) {
-    constexpr std::ptrdiff_t kFewDigits = 300;
     const bool hexadecimal = *first == '0' && (*end == 'x' || *end == 'X');
-    return end - first <= kFewDigits && !hexadecimal;
+    return static_cast<std::size_t>(end - first) <= kSafeDigits && !hexadecimal;
 }
 
 /// Reads the number from the source text. False when it does not end at `end` (0x1A is read as
