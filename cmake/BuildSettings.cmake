@@ -1,6 +1,6 @@
 # Compiler settings that every target of the project shares: recastor_build_settings(TARGET).
 
-set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g -D_GLIBCXX_ASSERTIONS -DRECASTOR_OBJECTS_ON_HEAP")
+set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g -D_GLIBCXX_ASSERTIONS")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -D_FORTIFY_SOURCE=2 -fstack-protector-strong")
 
 # What users run is placed at random in memory, and its tables of addresses are read-only.
@@ -35,10 +35,15 @@ endif()
 # The program is optimised as a whole when it is linked (a fifth faster on TABLES commands), and may
 # grow by what is expanded in place (another eighth). The libraries' objects hold ordinary code as
 # well, so that tests link quickly and users of the installed libraries need no such compiler.
-set(recastor_link_time_optimisation -O3 -flto=auto --param=large-unit-insns=100000)
+set(recastor_link_time_optimisation -O3)
+set(recastor_object_optimisation -O3)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    list(APPEND recastor_link_time_optimisation -flto=auto --param=large-unit-insns=100000)
+    set(recastor_object_optimisation ${recastor_link_time_optimisation} -ffat-lto-objects)
+endif()
 function(recastor_optimise_when_linked target)
     target_compile_options(${target} PRIVATE
-        "$<$<CONFIG:Release>:${recastor_link_time_optimisation};-ffat-lto-objects>")
+        "$<$<CONFIG:Release>:${recastor_object_optimisation}>")
 endfunction()
 
 function(recastor_build_settings target)
