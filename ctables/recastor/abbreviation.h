@@ -8,7 +8,7 @@
 namespace recastor {
 
 /// The first three bytes of a word as one number; a shorter word is filled up with zeros. Two words
-/// have the same number when they are equal on three characters.
+/// have the same number when they are equal on three bytes.
 constexpr std::uint32_t Abbreviation(std::string_view word) {
     constexpr std::size_t kComparedLength = 3;
     std::uint32_t packed = 0;

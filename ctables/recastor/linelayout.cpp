@@ -26,6 +26,7 @@ void LineLayout::Place(std::string_view piece) {
         BreakLine();
         AppendToNewLine(piece);
     } else {
+        // Trimming takes the last character along: a comma is told by one with a character behind.
         if (OutputSequence::TrimString(m_text.substr(m_lastPiece)) != ",") {
             CarryLastPieceToNewLine();
         }

@@ -24,7 +24,8 @@ public:
     /// Ends the line. The break between lines counts as their last piece.
     void BreakLine();
     /// Appends a piece to the line at hand or to a new one. A piece that is a lone comma takes the
-    /// piece before it to the new line, so that no line begins with one.
+    /// piece before it to the new line, so that no line begins with one; it takes none that is
+    /// itself a comma and one more character.
     void Place(std::string_view piece);
     /// What was laid out; the layout is used up.
     std::string TakeText() { return std::move(m_text); }

@@ -1,4 +1,5 @@
-/// The message catalogue: every text that the program writes for its user.
+/// The message catalogue: every text that the program writes for its user, but for the reasons why
+/// a chart has no GPL (platform/zelkwigr/gplobstacles.cpp).
 ///
 /// A message's constant is its key as well as its text. "%s" stands for a text, "%ld" for a line
 /// and "%d" for a column.
