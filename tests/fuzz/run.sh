@@ -53,7 +53,7 @@ for target in "$@"; do
     # shellcheck disable=SC2086 # process numbers on purpose
     if [ "$(echo $running | wc -w)" -ge "$(nproc)" ]; then
         wait "${running%% *}" || failed=1
-        running=${running#* }
+        case $running in *' '*) running=${running#* } ;; *) running= ;; esac
     fi
     fuzz "$target" &
     running="${running:+$running }$!"
