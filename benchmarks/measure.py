@@ -55,8 +55,10 @@ def generated(kind, size):
     """The input file of that kind and size, made anew when the generator is newer."""
     path = DATA / f"{kind}-{size}.txt"
     if not path.exists() or path.stat().st_mtime < GENERATOR.stat().st_mtime:
-        with open(path, "wb") as file:
+        part = path.with_suffix(".part")  # what an interrupted run leaves is not taken for whole
+        with open(part, "wb") as file:
             subprocess.run([GENERATOR, kind, str(size), str(SEED)], stdout=file, check=True)
+        part.replace(path)
     return path
 
 
