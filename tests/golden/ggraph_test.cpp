@@ -1,5 +1,6 @@
 // Every graph that a golden case records is held to the grammar.
 
+#include "tests/support/goldencases.h"
 #include "tests/support/gplgrammar.h"
 #include "tests/support/run.h"
 
@@ -15,12 +16,12 @@ namespace fs = std::filesystem;
 
 TEST(GoldenGraphs, AreWellFormed) {
     int count = 0;
-    for (const auto& entry : fs::directory_iterator(fs::path(RECASTOR_TESTS) / "golden")) {
-        const fs::path file = entry.path() / "output.syn";
+    for (const fs::path& folder : GoldenCases(fs::path(RECASTOR_TESTS) / "golden")) {
+        const fs::path file = folder / "output.syn";
         if (!fs::exists(file)) {
             continue;
         }
-        SCOPED_TRACE(entry.path().filename());
+        SCOPED_TRACE(folder.filename());
         std::string output = ReadFile(file);
         std::erase(output, '\r');
         for (const std::string& form : GGraphFormsIn(output)) {

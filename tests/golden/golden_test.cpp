@@ -9,12 +9,11 @@
 //
 // With RECASTOR_REGENERATE set the files are written in place of being compared.
 
+#include "tests/support/goldencases.h"
 #include "tests/support/run.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -30,25 +29,10 @@ const fs::path kCases = fs::path(RECASTOR_TESTS) / "golden";
 
 std::vector<std::string> CaseNames() {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(kCases)) {
-        if (entry.is_directory()) {
-            names.push_back(entry.path().filename().string());
-        }
+    for (const fs::path& folder : GoldenCases(kCases)) {
+        names.push_back(folder.filename().string());
     }
-    std::sort(names.begin(), names.end());
     return names;
-}
-
-std::vector<std::string> Arguments(const fs::path& folder) {
-    if (!fs::exists(folder / "arguments")) {
-        return {"input.syn", "output.syn"};
-    }
-    std::istringstream lines(ReadFile(folder / "arguments"));
-    std::vector<std::string> arguments;
-    for (std::string line; std::getline(lines, line);) {
-        arguments.push_back(line);
-    }
-    return arguments;
 }
 
 void CompareOrRegenerate(const fs::path& expected, const std::string& actual) {
@@ -67,7 +51,7 @@ TEST_P(Golden, ConvertsAsRecorded) {
     if (fs::exists(folder / "input.syn")) {
         fs::copy_file(folder / "input.syn", work.Path() / "input.syn");
     }
-    const RunResult result = RunProgram(RECASTOR_PROGRAM, Arguments(folder), work.Path());
+    const RunResult result = RunProgram(RECASTOR_PROGRAM, GoldenArguments(folder), work.Path());
     CompareOrRegenerate(folder / "stdout", result.output);
     CompareOrRegenerate(folder / "stderr", result.errors);
     CompareOrRegenerate(folder / "status", std::to_string(result.status) + '\n');

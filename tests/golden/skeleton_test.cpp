@@ -4,6 +4,7 @@
 #include "archive/picture/skeletonoftree.h"
 #include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/recastor.h"
+#include "tests/support/goldencases.h"
 #include "tests/support/run.h"
 
 #include <filesystem>
@@ -43,15 +44,15 @@ private:
 
 TEST(Skeletons, OfOldAndNewCommandsOfTheGoldenCasesAreTheSame) {
     int compared = 0;
-    for (const auto& entry : fs::directory_iterator(fs::path(RECASTOR_TESTS) / "golden")) {
-        const fs::path input = entry.path() / "input.syn";
-        if (!fs::exists(input) || ReadFile(entry.path() / "status") != "0\n") {
+    for (const fs::path& folder : GoldenCases(fs::path(RECASTOR_TESTS) / "golden")) {
+        const fs::path input = folder / "input.syn";
+        if (!fs::exists(input) || ReadFile(folder / "status") != "0\n") {
             continue;
         }
         SCOPED_TRACE(input);
         std::istringstream file(ReadFile(input));
         std::ostringstream output;
-        const bool batch = entry.path().filename().string().starts_with("batch");
+        const bool batch = IsBatchCase(folder);
         CommandStream commands(file, batch);
         Comparison comparison;
         const CapturedStreams streams;

@@ -3,6 +3,7 @@
 
 #include "archive/picture/ctablesgrammar.h"
 #include "tests/support/convertedtables.h"
+#include "tests/support/goldencases.h"
 #include "tests/support/run.h"
 
 #include <filesystem>
@@ -20,8 +21,8 @@ namespace {
 /// The converted commands of all cases.
 std::vector<std::string> RecordedCommands() {
     std::vector<std::string> commands;
-    for (const auto& entry : fs::directory_iterator(fs::path(RECASTOR_TESTS) / "golden")) {
-        const fs::path output = entry.path() / "output.syn";
+    for (const fs::path& folder : GoldenCases(fs::path(RECASTOR_TESTS) / "golden")) {
+        const fs::path output = folder / "output.syn";
         if (!fs::exists(output)) {
             continue;
         }
