@@ -188,15 +188,15 @@ def all_rows(effort):
 
 
 def machine():
-    """The place and the time of a run, in a line."""
+    """The place and the time of a run, in two lines."""
     with open("/proc/cpuinfo", encoding="utf-8") as lines:
         model = next((line.split(":")[1].strip() for line in lines if "model name" in line),
                      platform.machine())
     commit = subprocess.run(["git", "-C", BUILD, "describe", "--always", "--dirty"],
                             capture_output=True, text=True, check=False).stdout.strip()
-    return (f"{model}, {os.cpu_count()} cores, one used; Linux {platform.release()}; locale C.UTF-8; "
-            f"commit {commit or 'unknown'}. Times are the processor's, user and system; start to "
-            "end is by the clock.")
+    return (f"{model}, {os.cpu_count()} cores, one used; Linux {platform.release()}; "
+            f"locale C.UTF-8; commit {commit or 'unknown'}.\n"
+            "Times are the processor's, user and system; start to end is by the clock.")
 
 
 def line_of(row):

@@ -6,7 +6,8 @@ import subprocess
 import time
 from dataclasses import dataclass
 
-# One locale for every program that is compared: what it costs to look at text as UTF-8 is the same for all.
+# One locale for every program that is compared: what it costs to look at text as UTF-8 is the same
+# for all.
 ENVIRONMENT = {"PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8"}
 
 
