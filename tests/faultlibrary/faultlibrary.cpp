@@ -1,9 +1,9 @@
 // A library that is loaded in front of the C library and disturbs chosen calls of the system. The
 // environment says which: RECASTOR_FAULT=CALL:NUMBER:ERROR makes the NUMBERth call (from 1) of CALL
 // fail with errno ERROR, and every later one when NUMBER is followed by "+". ERROR "short" makes a
-// read or a write take one byte only; ERROR "kill" kills the program in place of the call. With
-// RECASTOR_CASE_BLIND every file system seems to take names that differ in case for one, as far as
-// faccessat() tells.
+// read or a write take one byte only; ERROR "kill" kills the program in place of the call. When a
+// call is disturbed, the folder that RECASTOR_FAULT_MARK names is made. With RECASTOR_CASE_BLIND
+// every file system seems to take names that differ in case for one, as far as faccessat() tells.
 
 #include <cerrno>
 #include <csignal>
@@ -53,6 +53,15 @@ const Fault& TheFault() {
     return fault;
 }
 
+/// Leaves a sign that a call was disturbed; making a folder takes none of the calls that are
+/// counted.
+void Mark() {
+    const char* const folder = std::getenv("RECASTOR_FAULT_MARK");
+    if (folder != nullptr) {
+        ::mkdir(folder, S_IRWXU);
+    }
+}
+
 /// Counts the calls of the chosen kind; true for one that shall be disturbed.
 bool IsChosen(const char* call) {
     static int count = 0;
@@ -62,6 +71,9 @@ bool IsChosen(const char* call) {
     }
     ++count;
     const bool chosen = count == fault.number || (fault.everyLater && count > fault.number);
+    if (chosen) {
+        Mark();
+    }
     if (chosen && fault.kills) {
         std::raise(SIGKILL);
     }
