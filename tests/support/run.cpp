@@ -13,6 +13,7 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 extern char** environ;
 
@@ -43,13 +44,21 @@ std::size_t BehindLine(const std::string& text, const std::string& start) {
 
 } // namespace
 
-std::string ConvertText(const std::string& input, bool batch) {
+TextResult RunOnText(const std::string& input, bool batch) {
     const MemoryFile inputFile(input);
     const MemoryFile outputFile("");
     const CapturedStreams silence;
     EnableLocale();
-    RunConversion({batch, inputFile.Name(), outputFile.Name()});
-    return outputFile.Content();
+    const int status = RunConversion({batch, inputFile.Name(), outputFile.Name()});
+    return {status, outputFile.Content()};
+}
+
+std::string ConvertText(const std::string& input, bool batch) {
+    TextResult result = RunOnText(input, batch);
+    if (result.status != 0) {
+        throw std::runtime_error("the run failed: " + result.output);
+    }
+    return std::move(result.output);
 }
 
 std::string ConvertTables(const std::string& command) {

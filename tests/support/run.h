@@ -9,7 +9,16 @@
 
 namespace recastor {
 
-/// The text that the converter writes for an input text; what the run says is dropped.
+/// How the conversion of a text ended: the exit status, and what was written until then.
+struct TextResult {
+    int status = 0;
+    std::string output;
+};
+
+/// Converts an input text; what the run says is dropped.
+TextResult RunOnText(const std::string& input, bool batch = false);
+
+/// The text that the converter writes for an input text; throws when the run fails.
 std::string ConvertText(const std::string& input, bool batch = false);
 
 /// What a TABLES command (without its period) is replaced by: the lines between the comment that

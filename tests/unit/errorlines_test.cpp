@@ -52,11 +52,12 @@ TEST(TokenErrorLines, ErrorInLineSevenOfTheFileIsToldWithLineSeven) {
     for (int line = 1; line < 7; ++line) {
         file += "FREQUENCIES x.\n";
     }
-    const std::string output = ConvertText(file + "TITLE 'abc\nLIST.\n");
-    EXPECT_TRUE(
-        output.ends_with("\n***** Error while tokenizing input syntax file. Line 7, column 11.\n"
-                         "***** Literal unclosed at the end of a line or command.\n"))
-        << output;
+    const TextResult result = RunOnText(file + "TITLE 'abc\nLIST.\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.output.ends_with(
+        "\n***** Error while tokenizing input syntax file. Line 7, column 11.\n"
+        "***** Literal unclosed at the end of a line or command.\n"))
+        << result.output;
 }
 
 TEST(ErrorLine, BeginsWithFiveAsterisksAndEndsWithAPeriod) {
