@@ -15,8 +15,8 @@ struct InMemoryResult {
 /// Converts `input` as the program would; what it says on the standard streams is dropped.
 InMemoryResult ConvertInMemory(std::string_view input, bool batch);
 
-/// Whether the text may hold FORMAT=BLANK ZERO, the one input on which the program stops itself by
-/// an internal check.
+/// Whether the text may hold FORMAT=BLANK ZERO, on which the program stops itself by an internal
+/// check: whether it holds the first three letters of both words, wherever they stand.
 bool MayStopTheProgram(std::string_view input);
 
 } // namespace recastor
