@@ -1,7 +1,9 @@
 // Laws of the conversion of charts.
 
+#include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/parseigraph.h"
 #include "ctables/recastor/zelktokensequence.h"
+#include "tests/support/dump.h"
 #include "tests/support/generators/igraph.h"
 #include "tests/support/gplgrammar.h"
 #include "tests/support/law.h"
@@ -86,15 +88,19 @@ TEST(IgraphLaws, AMangledCommandBecomesAGraphOrIsToldNotToBeOne) {
 }
 
 /// The command in front of the block; the block's own language is not ours to read.
-TEST(IgraphLaws, TheWrittenCommandReadsBack) {
+TEST(IgraphLaws, TheWrittenCommandReadsBackWhole) {
     EXPECT_TRUE(HoldsAlways([] {
         const std::string form = NewForm(IgraphText(*ValidIgraphs()));
-        if (IsGraph(form)) {
-            const std::string command = form.substr(0, form.find(".\nBEGIN GPL"));
-            ZELKTokenSequence tokens(command + '\n', false, 0);
-            RC_ASSERT(tokens.Next());
-            RC_ASSERT(tokens.CompareAsUpperString("GGRAPH", 0) == 0);
+        RC_PRE(IsGraph(form));
+        const std::string command = form.substr(0, form.find(".\nBEGIN GPL"));
+        for (const bool batch : {false, true}) {
+            std::istringstream file(form);
+            CommandStream commands(file, batch);
+            RC_ASSERT(!commands.NextCommand());
+            RC_ASSERT(commands.CommandString() == command + '\n');
+            RC_ASSERT(commands.TypeOfCommand() == kOrdinaryCommand);
         }
+        RC_ASSERT(DumpTokens(command).starts_with("GGRAPH"));
     }));
 }
 
