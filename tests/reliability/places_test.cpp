@@ -104,6 +104,12 @@ TEST_F(Places, AFullDeviceIsTold) {
     EXPECT_EQ("Error writing output file /dev/full\n", result.errors);
 }
 
+TEST_F(Places, ProgressLinesThatCannotBeWrittenLoseNothing) {
+    const std::string converted = Converted();
+    EXPECT_EQ(0, RunShell("\"$P\" input.syn output.syn >/dev/full").status);
+    EXPECT_EQ(converted, ReadFile(Folder() / "output.syn"));
+}
+
 TEST_F(Places, AnOlderOutputIsReplacedWhole) {
     const std::string converted = Converted();
     WriteFile(Folder() / "output.syn", std::string(100000, 'x'));
