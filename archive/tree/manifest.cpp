@@ -3,7 +3,9 @@
 #include "archive/outcome/outcomejson.h"
 #include "archive/outcome/shownpath.h"
 #include "archive/tree/systemerror.h"
+#include "archive/tree/wholefile.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
@@ -23,16 +25,12 @@ void Recover(const std::string& fileName) {
         return;
     }
     const std::string joined = fileName + ".joined";
-    {
-        std::ofstream file(joined, std::ios::binary | std::ios::trunc);
-        MergedManifests both({fileName, unfinished});
-        while (both.Next()) {
-            file << both.Line() << '\n';
-        }
-        if (!file.flush()) {
-            throw SystemError("cannot write " + joined);
-        }
+    WholeFile file(joined);
+    MergedManifests both({fileName, unfinished});
+    while (both.Next()) {
+        file.Stream() << both.Line() << '\n';
     }
+    file.Finish();
     if (std::rename(joined.c_str(), fileName.c_str()) != 0) {
         throw SystemError("cannot write " + fileName);
     }
@@ -89,12 +87,7 @@ bool MergedManifests::Next() {
 
 RunManifest::RunManifest(const std::string& reportFolder) :
     m_fileName(Recovered(FileName(reportFolder))), m_previous(m_fileName),
-    m_hasPrevious(m_previous.Next()),
-    m_file(FileDescriptor::Open(m_fileName + kUnfinished, O_WRONLY | O_CREAT | O_TRUNC)) {
-    if (!m_file.IsOpen()) {
-        throw SystemError("cannot write " + m_fileName + kUnfinished);
-    }
-}
+    m_hasPrevious(m_previous.Next()), m_file(OpenNewFile(m_fileName + kUnfinished)) {}
 
 std::string RunManifest::PreviousLine(const std::string& path) {
     while (m_hasPrevious && IsBeforeInWalk(m_previous.Path(), path)) {

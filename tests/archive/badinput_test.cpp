@@ -1,5 +1,6 @@
 // Folders that are not as one would wish.
 
+#include "archive/report/filepage.h"
 #include "tests/archive/archivetree.h"
 
 #include <cerrno>
@@ -156,6 +157,17 @@ TEST_F(BadInput, NothingIsWrittenThroughALinkInTheTarget) {
     EXPECT_TRUE(fs::is_empty(m_folder.Path() / "elsewhere"));
     EXPECT_EQ(ReadFile(m_folder.Path() / "precious"), "text");
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(m_target / "y.syn")));
+}
+
+TEST_F(BadInput, ReportThatFailsAtItsCloseTakesNoPlace) {
+    Put("a.syn", kTable);
+    const RunResult result = Run({"--report", m_folder.Path() / "report"},
+                                 {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY,
+                                  "RECASTOR_FAULT=close:1+:" + std::to_string(ENOSPC),
+                                  "ASAN_OPTIONS=verify_asan_link_order=0"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("/report/run.json: No space left on device\n"));
+    EXPECT_TRUE(fs::is_empty(m_folder.Path() / "report"));
 }
 
 TEST_F(BadInput, FullDiskIsToldCountedAndSurvived) {
