@@ -44,10 +44,8 @@ std::string Recovered(const std::string& fileName) {
 
 } // namespace
 
-ManifestReader::ManifestReader(const std::string& fileName) : m_file(fileName, std::ios::binary) {}
-
 bool ManifestReader::Next() {
-    while (std::getline(m_file, m_line)) {
+    while (ReadLine()) {
         auto path = PathOfLine(m_line);
         if (path && m_line.ends_with('}')) {
             m_path = std::move(*path);
@@ -55,6 +53,40 @@ bool ManifestReader::Next() {
         }
     }
     return false;
+}
+
+bool ManifestReader::ReadLine() {
+    m_line.clear();
+    for (;;) {
+        const std::size_t end = m_block.find('\n', m_position);
+        m_line.append(m_block, m_position, end - m_position); // npos: the rest
+        if (end != std::string::npos) {
+            m_position = end + 1;
+            return true;
+        }
+        if (!ReadBlock()) {
+            return !m_line.empty();
+        }
+    }
+}
+
+/// False at the end of the file.
+bool ManifestReader::ReadBlock() {
+    m_block.clear();
+    m_position = 0;
+    const FileDescriptor file = FileDescriptor::Open(m_fileName, O_RDONLY);
+    if (!file.IsOpen() && errno == ENOENT && m_offset == 0) {
+        return false;
+    }
+    m_block.resize(kBlockSize);
+    const bool open = file.IsOpen() && ::lseek(file.Number(), m_offset, SEEK_SET) == m_offset;
+    const long count = open ? file.Read(m_block.data(), m_block.size()) : -1;
+    if (count < 0) {
+        throw SystemError("cannot read " + ShownPath(m_fileName));
+    }
+    m_block.resize(static_cast<std::size_t>(count));
+    m_offset += count;
+    return count > 0;
 }
 
 MergedManifests::MergedManifests(const std::vector<std::string>& fileNames) {

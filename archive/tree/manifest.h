@@ -3,26 +3,35 @@
 
 #include "ctables/recastor/filedescriptor.h"
 
-#include <fstream>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace recastor {
 
 /// Reads a manifest line by line. A file that is missing is one without lines; what is no line of
-/// a manifest, as one that was cut off, is passed over.
+/// a manifest, as one that was cut off, is passed over. The file is open only while a block of it
+/// is read, so that any number of manifests can be read side by side.
 class ManifestReader {
 public:
-    explicit ManifestReader(const std::string& fileName);
+    explicit ManifestReader(std::string fileName) : m_fileName(std::move(fileName)) {}
 
-    /// Goes to the next line, from before the first; false behind the last.
+    /// Goes to the next line, from before the first; false behind the last. Throws FileError when
+    /// the file cannot be read: what it would have told is not known then.
     bool Next();
     const std::string& Line() const { return m_line; }
     const std::string& Path() const { return m_path; }
 
 private:
-    std::ifstream m_file;
+    bool ReadLine();
+    bool ReadBlock();
+
+    std::string m_fileName;
+    std::string m_block;
+    std::size_t m_position = 0; ///< in the block
+    std::int64_t m_offset = 0;  ///< of the next block in the file
     std::string m_line;
     std::string m_path;
 };
@@ -30,6 +39,7 @@ private:
 /// Reads several manifests as if they were one. Where several have a path the last of them counts.
 class MergedManifests {
 public:
+    /// Throws FileError, as Next() does, when one of them cannot be read.
     explicit MergedManifests(const std::vector<std::string>& fileNames);
 
     /// Goes to the next line, from before the first; false behind the last.
@@ -49,7 +59,7 @@ private:
 /// one is written beside it.
 class RunManifest {
 public:
-    /// Throws FileError when the new one cannot be written.
+    /// Throws FileError when the earlier one cannot be read or the new one cannot be written.
     explicit RunManifest(const std::string& reportFolder);
 
     /// The earlier run's line for the path; empty when there is none. To be asked in the order of

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <unistd.h>
 
 namespace recastor {
 
@@ -32,6 +33,17 @@ RunInfo Joined(const std::vector<RunInfo>& runs) {
     std::sort(all.present.begin(), all.present.end());
     all.present.erase(std::unique(all.present.begin(), all.present.end()), all.present.end());
     return all;
+}
+
+/// What is known of a run, whose report is then to be joined. A run that came to its end has left a
+/// manifest: without it, its files would be missing and nothing would tell.
+RunInfo ReadRun(const std::string& reportFolder) {
+    RunInfo run = ReadRunInfo(reportFolder);
+    const std::string manifest = RunManifest::FileName(reportFolder);
+    if (!run.interrupted && ::access(manifest.c_str(), F_OK) != 0) {
+        throw SystemError("cannot read " + ShownPath(manifest));
+    }
+    return run;
 }
 
 /// Tells which shards no report is of.
@@ -85,7 +97,7 @@ int RunMerge(const TreeOptions& options) {
     try {
         std::vector<RunInfo> runs;
         for (const std::string& folder : options.merge) {
-            runs.push_back(ReadRunInfo(folder));
+            runs.push_back(ReadRun(folder));
         }
         RunInfo run = Joined(runs);
         MakeFolders(options.report);

@@ -91,6 +91,35 @@ TEST_F(Shards, MissingShardIsTold) {
     EXPECT_THAT(result.errors, HasSubstr("shard 4/4 is missing\n"));
 }
 
+TEST_F(Shards, ManifestThatIsMissingOrUnreadableIsNoEmptyOne) {
+    RunShard(1);
+    const fs::path manifest = fs::path(ReportOf(1)) / "manifest.jsonl";
+    fs::remove(manifest);
+    const RunResult missing = Merge({1});
+    EXPECT_EQ(missing.status, 2);
+    EXPECT_THAT(missing.errors, HasSubstr("report1/manifest.jsonl: No such file or directory\n"));
+    fs::create_directory(manifest);
+    const RunResult unreadable = Merge({1});
+    EXPECT_EQ(unreadable.status, 2);
+    EXPECT_THAT(unreadable.errors, HasSubstr("report1/manifest.jsonl: Is a directory\n"));
+    EXPECT_FALSE(fs::exists(m_folder.Path() / "merged/report.json"));
+}
+
+TEST_F(Shards, ShareThatWasKilledBeforeItHadAManifestIsTold) {
+    for (int shard = 1; shard <= 4; ++shard) {
+        RunShard(shard);
+    }
+    const fs::path killed = ReportOf(2);
+    nlohmann::json run = ReadJson(killed / "run.json");
+    run["interrupted"] = true;
+    WriteFile(killed / "run.json", run.dump());
+    fs::remove(killed / "manifest.jsonl");
+    const RunResult result = Merge({1, 2, 3, 4});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.output, HasSubstr("interrupted"));
+    EXPECT_TRUE(ReadJson(m_folder.Path() / "merged/report.json").at("run").at("interrupted"));
+}
+
 TEST_F(Shards, WhatCannotBeJoinedIsRefused) {
     RunShard(1);
     Run({"--report", ReportOf(2)});

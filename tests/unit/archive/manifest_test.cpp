@@ -2,7 +2,10 @@
 
 #include "archive/outcome/outcomejson.h"
 #include "archive/tree/manifest.h"
+#include "archive/tree/systemerror.h"
 #include "tests/support/run.h"
+
+#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +51,45 @@ TEST_F(Manifests, LinesThatAreNoneArePassedOver) {
 TEST_F(Manifests, MissingManifestHasNoLines) {
     ManifestReader reader(Folder() + "/none");
     EXPECT_FALSE(reader.Next());
+}
+
+TEST_F(Manifests, OneThatCannotBeReadIsTold) {
+    fs::create_directory(Folder() + "/folder");
+    ManifestReader reader(Folder() + "/folder");
+    EXPECT_THROW(reader.Next(), FileError);
+    fs::create_directory(RunManifest::FileName(Folder()));
+    EXPECT_THROW(RunManifest{Folder()}, FileError);
+}
+
+TEST_F(Manifests, LinesLongerThanABlockAreRead) {
+    const std::string a = LineOf("a", std::string(200000, 'x'));
+    const std::string b = LineOf("b", std::string(65536, 'y'));
+    ManifestReader reader(Put("m", {a, "", b}));
+    ASSERT_TRUE(reader.Next());
+    EXPECT_EQ(reader.Line(), a);
+    ASSERT_TRUE(reader.Next());
+    EXPECT_EQ(reader.Line(), b);
+    EXPECT_FALSE(reader.Next());
+    EXPECT_FALSE(reader.Next());
+}
+
+TEST_F(Manifests, MoreThanAProcessMayHaveOpenAreJoined) {
+    struct rlimit before {};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    struct rlimit few = before;
+    few.rlim_cur = 40;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    std::vector<std::string> names;
+    for (int i = 0; i < 50; ++i) {
+        const std::string name = "m" + std::to_string(i);
+        names.push_back(Put(name, {LineOf(name, "")}));
+    }
+    int lines = 0;
+    for (MergedManifests merged(names); merged.Next();) {
+        ++lines;
+    }
+    EXPECT_EQ(lines, 50);
+    ::setrlimit(RLIMIT_NOFILE, &before);
 }
 
 TEST_F(Manifests, JoinedInTheOrderOfTheWalkTheLastCounts) {
