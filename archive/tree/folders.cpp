@@ -38,6 +38,14 @@ void MakeFolders(const std::string& path) {
     }
 }
 
+void MakeFolderInside(const std::string& path) {
+    std::error_code error;
+    if (fs::is_symlink(fs::symlink_status(path, error))) {
+        throw FileError("cannot use the folder " + ShownPath(path) + ": it is a link");
+    }
+    MakeFolders(path);
+}
+
 void PrepareFolders(const TreeOptions& options) {
     std::error_code error;
     if (!fs::is_directory(options.source, error)) {
@@ -51,7 +59,9 @@ void PrepareFolders(const TreeOptions& options) {
     if (options.WritesTargets()) {
         MakeFolders(options.target);
     }
-    if (!options.report.empty()) {
+    if (options.isUsualReport) {
+        MakeFolderInside(options.report);
+    } else if (!options.report.empty()) {
         MakeFolders(options.report);
     }
 }

@@ -1,5 +1,6 @@
 #include "archive/tree/pages.h"
 
+#include "archive/outcome/shownpath.h"
 #include "archive/report/filepage.h"
 #include "archive/report/reportassets.h"
 #include "archive/tree/folders.h"
@@ -7,6 +8,7 @@
 #include "archive/tree/wholefile.h"
 
 #include <filesystem>
+#include <fstream>
 #include <unistd.h>
 
 namespace recastor {
@@ -20,8 +22,8 @@ std::string PlaceOf(const std::string& reportFolder, const FileOutcome& outcome)
 } // namespace
 
 void PreparePages(const std::string& reportFolder) {
-    MakeFolders(reportFolder + "/assets");
-    MakeFolders(std::filesystem::path(PlaceOf(reportFolder, {})).parent_path());
+    MakeFolderInside(reportFolder + "/assets");
+    MakeFolderInside(std::filesystem::path(PlaceOf(reportFolder, {})).parent_path());
     for (const std::string_view name : kReportAssets) {
         WholeFile asset(reportFolder + "/assets/" + std::string(name));
         asset.Stream() << ReportAsset(name);
@@ -45,11 +47,14 @@ void CopyPage(const std::string& from, const std::string& to, const FileOutcome&
     if (!HasFilePage(outcome)) {
         return;
     }
-    std::error_code error;
-    std::filesystem::copy_file(PlaceOf(from, outcome), PlaceOf(to, outcome),
-                               std::filesystem::copy_options::overwrite_existing, error);
-    if (error && error != std::errc::no_such_file_or_directory) {
-        throw SystemError("cannot write " + PlaceOf(to, outcome), error.value());
+    std::ifstream page(PlaceOf(from, outcome), std::ios::binary);
+    if (!page && errno != ENOENT) {
+        throw SystemError("cannot read " + ShownPath(PlaceOf(from, outcome)));
+    }
+    if (page) {
+        WholeFile copy(PlaceOf(to, outcome));
+        copy.Stream() << page.rdbuf();
+        copy.Finish();
     }
 }
 

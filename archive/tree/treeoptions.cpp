@@ -115,6 +115,7 @@ void CompleteConversion(Arguments& arguments) {
     options.target = arguments.target;
     if (options.report.empty() && options.WritesTargets()) {
         options.report = options.target + '/' + kReportFolder;
+        options.isUsualReport = true;
     }
     if (options.include.empty()) {
         options.include = {kUsualFiles};

@@ -20,8 +20,9 @@ struct Shard {
 struct TreeOptions {
     std::string source;
     std::string target;
-    std::string report; ///< the report folder; empty when none is to be written
-    bool batch = false; ///< batch-mode syntax rules
+    std::string report;         ///< the report folder; empty when none is to be written
+    bool isUsualReport = false; ///< it is the one inside of the target, which nobody named
+    bool batch = false;         ///< batch-mode syntax rules
     unsigned jobs = 1;
     std::vector<std::string> include; ///< patterns of the files that are converted
     std::vector<std::string> exclude; ///< patterns of those that are not, and of folders

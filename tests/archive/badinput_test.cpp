@@ -159,6 +159,45 @@ TEST_F(BadInput, NothingIsWrittenThroughALinkInTheTarget) {
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(m_target / "y.syn")));
 }
 
+TEST_F(BadInput, ReportIsNotWrittenThroughALinkInTheTarget) {
+    Put("a.syn", kTable);
+    const fs::path elsewhere = m_folder.Path() / "elsewhere";
+    fs::create_directories(elsewhere);
+    fs::create_directories(m_target);
+    fs::create_symlink(elsewhere, m_report);
+    const RunResult result = Run();
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("/target/recastor-report: it is a link\n"));
+    EXPECT_TRUE(fs::is_empty(elsewhere));
+    EXPECT_EQ(Run({"--report", m_report}).status, 0) << "the user named it";
+    EXPECT_TRUE(fs::exists(elsewhere / "report.json"));
+}
+
+TEST_F(BadInput, NothingIsWrittenThroughALinkInTheReport) {
+    Put("a.syn", kTable);
+    const fs::path elsewhere = m_folder.Path() / "elsewhere";
+    for (const std::string folder : {"files", "assets"}) {
+        fs::create_directories(elsewhere);
+        fs::create_directories(m_report);
+        fs::create_symlink(elsewhere, m_report / folder);
+        EXPECT_EQ(Run().status, 2) << folder;
+        EXPECT_TRUE(fs::is_empty(elsewhere)) << folder;
+        fs::remove_all(m_target);
+    }
+    fs::create_directories(m_report / "files");
+    WriteFile(m_folder.Path() / "precious", "text");
+    for (const std::string& name :
+         std::vector<std::string>{"run.json", "index.html", "report.csv", "report.sarif",
+                                  "report.json", "manifest.jsonl", FilePageName("a.syn")}) {
+        fs::create_symlink(m_folder.Path() / "precious", m_report / name);
+        fs::create_symlink(m_folder.Path() / "precious", m_report / (name + ".part"));
+    }
+    fs::create_symlink(m_folder.Path() / "precious", m_report / "manifest.jsonl.joined");
+    EXPECT_EQ(Run().status, 0);
+    EXPECT_EQ(ReadFile(m_folder.Path() / "precious"), "text");
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(m_report / "index.html")));
+}
+
 TEST_F(BadInput, ReportThatFailsAtItsCloseTakesNoPlace) {
     Put("a.syn", kTable);
     const RunResult result = Run({"--report", m_folder.Path() / "report"},
