@@ -23,6 +23,9 @@ namespace {
 /// So many jobs wait at a worker, so that it need not wait for the next.
 constexpr std::size_t kJobsAhead = 4;
 
+/// More than this between two waits is not spent on work: the program was stopped.
+constexpr std::chrono::seconds kLongestWork{5};
+
 /// What a process left behind on standard error, on one line.
 std::string LastWords(const FileDescriptor& errors) {
     std::array<char, 1024> text{};
@@ -43,8 +46,8 @@ std::string ReasonOfEnd(int status, const FileDescriptor& errors) {
 
 } // namespace
 
-WorkerPool::WorkerPool(const TreeOptions& options, Take take) :
-    m_options(options), m_take(std::move(take)) {
+WorkerPool::WorkerPool(const TreeOptions& options, Take take, TellTime now) :
+    m_options(options), m_take(std::move(take)), m_now(std::move(now)), m_lastWait(m_now()) {
     for (unsigned i = 0; i < options.jobs; ++i) {
         m_workers.push_back(std::make_unique<Worker>());
         Start(*m_workers.back());
@@ -102,7 +105,7 @@ void WorkerPool::Give(NumberedJob job) {
             return a->jobs.size() < b->jobs.size();
         });
     if (worker.jobs.empty()) {
-        worker.start = Clock::now();
+        worker.start = m_now();
     }
     worker.toSend += PacketOf(job.job);
     worker.jobs.push_back(std::move(job));
@@ -116,6 +119,7 @@ void WorkerPool::Wait(int milliseconds) {
         events.push_back({worker->socket.Number(), wanted, 0});
     }
     const int ready = ::poll(events.data(), events.size(), milliseconds);
+    ForgetStandstill(milliseconds);
     for (std::size_t i = 0; i < events.size(); ++i) {
         if (ready > 0 && events[i].revents != 0) {
             Serve(*m_workers[i], (events[i].revents & ~POLLOUT) != 0,
@@ -136,7 +140,7 @@ void WorkerPool::Serve(Worker& worker, bool readable, bool writable) {
     while (const auto packet = TakePacket(worker.received)) {
         const std::uint64_t number = worker.jobs.front().number;
         worker.jobs.pop_front();
-        worker.start = Clock::now();
+        worker.start = m_now();
         m_take(number, ResultOf(*packet));
     }
     if (!open) {
@@ -172,9 +176,20 @@ bool WorkerPool::Receive(Worker& worker) {
     }
 }
 
+void WorkerPool::ForgetStandstill(int milliseconds) {
+    const Clock::time_point now = m_now();
+    const auto standstill = now - m_lastWait - std::chrono::milliseconds(milliseconds);
+    m_lastWait = now;
+    if (standstill > kLongestWork) {
+        for (const auto& worker : m_workers) {
+            worker->start = std::min(worker->start + standstill, now);
+        }
+    }
+}
+
 void WorkerPool::CheckTime(Worker& worker) {
     const auto limit = std::chrono::seconds(m_options.timeLimit);
-    if (m_options.timeLimit > 0 && !worker.jobs.empty() && Clock::now() - worker.start > limit) {
+    if (m_options.timeLimit > 0 && !worker.jobs.empty() && m_now() - worker.start > limit) {
         ::kill(worker.process, SIGKILL);
         ::waitpid(worker.process, nullptr, 0);
         Replace(worker, "it took longer than " + std::to_string(m_options.timeLimit) + " s");

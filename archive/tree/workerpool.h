@@ -25,11 +25,13 @@ struct NumberedJob {
 /// takes too long is replaced; the file that it was at fails, the ones behind it are handed on.
 class WorkerPool {
 public:
+    using Clock = std::chrono::steady_clock;
     using Take = std::function<void(std::uint64_t number, FileResult result)>;
+    using TellTime = std::function<Clock::time_point()>;
 
     /// Starts the options' number of workers. `take` gets each job's result. Throws FileError when
     /// the system has no room for a process.
-    WorkerPool(const TreeOptions& options, Take take);
+    WorkerPool(const TreeOptions& options, Take take, TellTime now = &Clock::now);
     /// Ends the workers; one that is at work is not waited for.
     ~WorkerPool();
     WorkerPool(const WorkerPool&) = delete;
@@ -44,7 +46,6 @@ public:
     void Wait(int milliseconds);
 
 private:
-    using Clock = std::chrono::steady_clock;
     struct Worker {
         pid_t process = -1;
         FileDescriptor socket;
@@ -59,12 +60,16 @@ private:
     void Serve(Worker& worker, bool readable, bool writable);
     static void Send(Worker& worker);
     static bool Receive(Worker& worker);
+    /// Time in which this program did not run, as behind Ctrl-Z, is no time of its workers.
+    void ForgetStandstill(int milliseconds);
     void CheckTime(Worker& worker);
     /// The worker's process is over, or is ended when it is not.
     void Replace(Worker& worker, const std::string& reason);
 
     const TreeOptions& m_options;
     Take m_take;
+    TellTime m_now;
+    Clock::time_point m_lastWait; ///< when it ended
     std::vector<std::unique_ptr<Worker>> m_workers;
 };
 

@@ -82,6 +82,37 @@ TEST_F(Pool, CrashesInARowAreSurvived) {
     }
 }
 
+TEST_F(Pool, TimeInWhichTheProgramWasStoppedIsNoTimeOfItsWorkers) {
+    ASSERT_EQ(::mkfifo((fs::path(m_options.source) / "pipe").c_str(), 0600), 0);
+    m_options.timeLimit = 60;
+    WorkerPool::Clock::time_point now{};
+    std::vector<std::string> problems;
+    WorkerPool pool(
+        m_options, [&](std::uint64_t, const FileResult& r) { problems.push_back(r.problem); },
+        [&] { return now; });
+    const auto work = [&](int seconds) {
+        for (int i = 0; i < seconds; ++i) {
+            now += std::chrono::seconds(1);
+            pool.Wait(0);
+        }
+    };
+    pool.Give({0, {"pipe", "", ""}});
+    work(30);
+    now += std::chrono::hours(1);
+    pool.Wait(0);
+    work(29);
+    EXPECT_EQ(problems.size(), 0U);
+    work(2);
+    EXPECT_EQ(problems, std::vector<std::string>{"it took longer than 60 s"});
+
+    // A job that was given behind the standstill does not start in the time to come.
+    now += std::chrono::hours(1);
+    pool.Give({1, {"pipe", "", ""}});
+    pool.Wait(0);
+    work(61);
+    EXPECT_EQ(problems.size(), 2U);
+}
+
 } // namespace
 
 } // namespace recastor
