@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -33,10 +34,20 @@ void UseLocale(const std::string& name) {
     ::setenv("LC_ALL", name.c_str(), 1);
 }
 
+/// A worker that is at a file does not see that nobody waits for it any more, and a file that the
+/// converter does not come to the end of would keep it forever.
+void DieWith(pid_t parent) {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != parent) { // it died before that
+        std::_Exit(0);
+    }
+}
+
 } // namespace
 
 void RunWorker(const TreeOptions& options, const FileDescriptor& socket,
-               const FileDescriptor& errors) {
+               const FileDescriptor& errors, pid_t parent) noexcept {
+    DieWith(parent);
     // Ctrl-C is sent to every process of the terminal; only the first one decides what it means.
     static_cast<void>(std::signal(SIGINT, SIG_IGN));
     static_cast<void>(std::signal(SIGTERM, SIG_IGN));

@@ -75,6 +75,7 @@ void WorkerPool::Start(Worker& worker) const {
     }
     worker.socket = FileDescriptor(ends[0]);
     const FileDescriptor other(ends[1]);
+    const pid_t parent = ::getpid();
     worker.process = ::fork();
     if (worker.process < 0) {
         throw SystemError("cannot start a worker");
@@ -84,7 +85,7 @@ void WorkerPool::Start(Worker& worker) const {
         for (const auto& each : m_workers) {
             each->socket.Close();
         }
-        RunWorker(m_options, other, worker.errors);
+        RunWorker(m_options, other, worker.errors, parent);
     }
     ::fcntl(worker.socket.Number(), F_SETFL, O_NONBLOCK);
 }

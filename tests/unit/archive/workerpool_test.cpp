@@ -1,11 +1,18 @@
 // Files that end a worker or keep it forever cost themselves only.
 
+#include "archive/tree/worker.h"
 #include "archive/tree/workerpool.h"
 #include "tests/support/run.h"
 
+#include <array>
 #include <chrono>
+#include <csignal>
+#include <fcntl.h>
 #include <map>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <type_traits>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -112,6 +119,33 @@ TEST_F(Pool, TimeInWhichTheProgramWasStoppedIsNoTimeOfItsWorkers) {
     work(61);
     EXPECT_EQ(problems.size(), 2U);
 }
+
+TEST_F(Pool, WorkerDiesWithTheProgram) {
+    const fs::path pipe = fs::path(m_options.source) / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::array<int, 2> alive{}; // its writing end is open as long as one of the processes lives
+    ASSERT_EQ(::pipe(alive.data()), 0);
+    const pid_t program = ::fork();
+    if (program == 0) {
+        WorkerPool pool(m_options, [](std::uint64_t, const FileResult&) {});
+        pool.Give({0, {"pipe", "", ""}});
+        ::pause();
+        ::_exit(0);
+    }
+    ::close(alive[1]);
+    // The worker is at the file when this is open, and does not come to its end before it is
+    // closed.
+    const FileDescriptor writer = FileDescriptor::Open(pipe, O_WRONLY);
+    ASSERT_EQ(::kill(program, SIGKILL), 0);
+    ::waitpid(program, nullptr, 0);
+    char byte = 0;
+    EXPECT_EQ(::read(alive[0], &byte, 1), 0) << "the end, when the worker is over as well";
+    ::close(alive[0]);
+}
+
+// Below a worker's functions stand those of the program that it was forked from.
+static_assert(std::is_nothrow_invocable_v<decltype(RunWorker), const TreeOptions&,
+                                          const FileDescriptor&, const FileDescriptor&, pid_t>);
 
 } // namespace
 
