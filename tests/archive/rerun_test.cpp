@@ -31,15 +31,15 @@ protected:
         return "; " + std::to_string(count) + " unchanged since an earlier run";
     }
 
-    /// A run that was sent SIGINT before it began.
-    int InterruptedRun() const {
+    /// A run that was sent the signal before it began.
+    int InterruptedRun(int signal) const {
         const pid_t child = ::fork();
         if (child == 0) {
             sigset_t signals;
             ::sigemptyset(&signals);
-            ::sigaddset(&signals, SIGINT);
+            ::sigaddset(&signals, signal);
             ::sigprocmask(SIG_BLOCK, &signals, nullptr);
-            ::raise(SIGINT);
+            ::raise(signal);
             ::execl(RECASTOR_TREE_PROGRAM, RECASTOR_TREE_PROGRAM, "--quiet", m_source.c_str(),
                     m_target.c_str(), nullptr);
             ::_exit(127);
@@ -111,11 +111,13 @@ TEST_F(Rerun, RemovedFileLeavesTheReportAndKeepsItsTarget) {
 
 TEST_F(Rerun, InterruptedRunKeepsWhatIsKnownAndTheNextFinishesIt) {
     const auto before = Comparable(Report());
-    EXPECT_EQ(InterruptedRun(), 1);
-    EXPECT_TRUE(Report().at("run").at("interrupted").get<bool>());
-    EXPECT_EQ(Comparable(Report()), before);
-    EXPECT_THAT(Run().output, HasSubstr(Unchanged(3)));
-    EXPECT_FALSE(Report().at("run").at("interrupted").get<bool>());
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        EXPECT_EQ(InterruptedRun(signal), 1) << signal;
+        EXPECT_TRUE(Report().at("run").at("interrupted").get<bool>());
+        EXPECT_EQ(Comparable(Report()), before);
+        EXPECT_THAT(Run().output, HasSubstr(Unchanged(3)));
+        EXPECT_FALSE(Report().at("run").at("interrupted").get<bool>());
+    }
 }
 
 TEST_F(Rerun, KilledRunIsFinishedByTheNext) {

@@ -1,9 +1,11 @@
 // A library that is loaded in front of the C library and disturbs chosen calls of the system. The
 // environment says which: RECASTOR_FAULT=CALL:NUMBER:ERROR makes the NUMBERth call (from 1) of CALL
 // fail with errno ERROR, and every later one when NUMBER is followed by "+". ERROR "short" makes a
-// read or a write take one byte only; ERROR "kill" kills the program in place of the call. When a
-// call is disturbed, the folder that RECASTOR_FAULT_MARK names is made. With RECASTOR_CASE_BLIND
-// every file system seems to take names that differ in case for one, as far as faccessat() tells.
+// read or a write take one byte only; ERROR "kill" kills the program in place of the call; ERROR
+// "wait" makes the call when the pipe that RECASTOR_PIPE names was opened and closed by a writer.
+// When a call is disturbed, the folder that RECASTOR_FAULT_MARK names is made. With
+// RECASTOR_CASE_BLIND every file system seems to take names that differ in case for one, as far as
+// faccessat() tells.
 
 #include <cerrno>
 #include <csignal>
@@ -13,6 +15,7 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <fstream>
 #include <string>
 #include <strings.h>
 #include <sys/stat.h>
@@ -27,6 +30,7 @@ struct Fault {
     bool everyLater = false;
     bool isShort = false;
     bool kills = false;
+    bool waits = false;
     int error = 0;
 };
 
@@ -44,6 +48,7 @@ Fault ReadFault() {
     fault.everyLater = text[second - 1] == '+';
     fault.isShort = text.substr(second + 1) == "short";
     fault.kills = text.substr(second + 1) == "kill";
+    fault.waits = text.substr(second + 1) == "wait";
     fault.error = std::atoi(text.c_str() + second + 1);
     return fault;
 }
@@ -62,6 +67,12 @@ void Mark() {
     }
 }
 
+/// Returns when a writer of the pipe has come and gone.
+void WaitForPipe() {
+    std::ifstream pipe(std::getenv("RECASTOR_PIPE"));
+    pipe.get();
+}
+
 /// Counts the calls of the chosen kind; true for one that shall be disturbed.
 bool IsChosen(const char* call) {
     static int count = 0;
@@ -76,6 +87,10 @@ bool IsChosen(const char* call) {
     }
     if (chosen && fault.kills) {
         std::raise(SIGKILL);
+    }
+    if (chosen && fault.waits) {
+        WaitForPipe();
+        return false;
     }
     return chosen;
 }
