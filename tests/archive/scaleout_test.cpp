@@ -83,6 +83,19 @@ TEST_F(ScaleOut, FourSharesOneOfThemKilledMakeWhatASingleRunMakes) {
     ExpectLikeASingleRun(m_folder.Path() / "sharded", m_folder.Path() / "report");
 }
 
+TEST_F(ScaleOut, ShareThatFailsForGoodIsTriedThreeTimesAndTheOthersAreJoined) {
+    InstallProgram("case \"$*\" in *' --shard 2/3 '*) echo >> tries; exit 2;; esac");
+    // A share of an earlier run with more of them.
+    Run({"--shard", "4/4", "--report", m_folder.Path() / "report/shares/4"});
+    const RunResult result = RunRecipe("with-parallel", {"3", "source", "sharded", "report"});
+    EXPECT_EQ(result.status, 1) << result.errors;
+    EXPECT_EQ(ReadFile(m_folder.Path() / "tries"), "\n\n\n");
+    EXPECT_THAT(result.errors, HasSubstr("recastor-tree: shard 2/3 is missing\n"));
+    const auto run = ReadJson(m_folder.Path() / "report/report.json").at("run");
+    EXPECT_EQ(run.at("present"), nlohmann::json({1, 3}));
+    EXPECT_TRUE(run.at("interrupted").get<bool>());
+}
+
 TEST_F(ScaleOut, TasksOfAJobArrayMakeWhatASingleRunMakes) {
     InstallProgram("");
     for (const std::string task : {"2", "1", "3"}) {
