@@ -17,8 +17,11 @@ enum class ReportedKind { kTables, kIgraph, kComment, kDocument, kData, kOther }
 /// Why a command, or the rest of a file, is not converted.
 struct ConversionError {
     std::int64_t line; ///< 1-based line of the input file; 0 when the error has no place
-    int column;        ///< as the converter's own messages count it; 0 without a place
-    std::string text;  ///< the reason, of the message catalogue
+    /// Of the character in its line, 1-based, however the message in the output counts; 0 without a
+    /// place. Of an error that ends a file it is as the message counts: behind what is wrong, and
+    /// at times from 0 on the later lines of a command.
+    int column;
+    std::string text; ///< the reason, of the message catalogue
 };
 
 /// Is told about the commands of one file in their order. This one is silent; a derived one

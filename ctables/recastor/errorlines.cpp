@@ -80,13 +80,16 @@ std::optional<ConversionError> RecordedError(long lineOffset) {
     }
     std::string reason;
     SCFormatString(reason, MessageNumber(ParseErrorTable(), error), argument);
-    // The parser counts columns from 0.
-    return ConversionError{line + lineOffset, column + 1, reason};
+    // Tokens count from 1 on a command's first line and from 0 on later ones.
+    return ConversionError{line + lineOffset, line > 1 ? column + 1 : column, reason};
 }
 
 void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
     if (const auto error = RecordedError(lineOffset)) {
-        PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, error->line, error->column), out);
+        // The message has always taken columns to be counted from 0 on every line.
+        const bool isFirstLine = error->line <= lineOffset + 1;
+        const int column = isFirstLine ? error->column + 1 : error->column;
+        PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, error->line, column), out);
         PrintErrorLine(error->text, out);
     }
 }

@@ -51,7 +51,7 @@ TEST_F(Conversion, ReportTellsWhatBecameOfEachFile) {
     EXPECT_EQ(wrong.at("commands").at(0).at("kind"), "tables");
     EXPECT_EQ(wrong.at("commands").at(0).at("firstLine"), 2);
     EXPECT_EQ(wrong.at("commands").at(0).at("error").at("line"), 2);
-    EXPECT_EQ(wrong.at("commands").at(0).at("error").at("column"), 10);
+    EXPECT_EQ(wrong.at("commands").at(0).at("error").at("column"), 9);
     const auto ended = Entry("b/ended.syn");
     EXPECT_EQ(ended.at("status"), "ended");
     EXPECT_EQ(ended.at("message"), "Literal unclosed at the end of a line or command");

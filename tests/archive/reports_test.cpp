@@ -129,7 +129,7 @@ TEST_F(Reports, SarifNamesThePlaceOfEachResult) {
                             "d/ended.syn file-ended error {\"startColumn\":9,\"startLine\":2}",
                             "d/missed.syn possibly-missed warning {\"startLine\":2}",
                             "d/wrong.syn command-not-converted error "
-                            "{\"startColumn\":10,\"startLine\":1}",
+                            "{\"startColumn\":9,\"startLine\":1}",
                             "d/wrong.syn command-not-converted error {\"startLine\":2}",
                             "e.syn file-skipped warning null"));
 }

@@ -90,8 +90,20 @@ TEST_F(Listening, TablesCommandThatCannotBeParsedHasAPlaceInTheFileAndNoTree) {
     EXPECT_EQ(Hear("FREQ x.\nTABLES /TABLE.\n"),
               "other 1: FREQ x\n"
               "tables 2: TABLES /TABLE\n"
-              "not converted 2/10: Unable to parse the syntax of the TABLE subcommand\n");
+              "not converted 2/9: Unable to parse the syntax of the TABLE subcommand\n");
     EXPECT_FALSE(m_heardTree);
+}
+
+TEST_F(Listening, ColumnOfACommandThatIsNotConvertedCountsFromOneOnEveryLine) {
+    EXPECT_EQ(Hear("TABLES /TABLE x /STATISTICS none.\n"),
+              "tables 1: TABLES /TABLE x /STATISTICS none\n"
+              "not converted 1/29: Unrecognized summary function none\n");
+    EXPECT_NE(m_output.find("Line 1, column 30."), std::string::npos) << m_output;
+    EXPECT_EQ(Hear("FREQ x.\n\nTABLES /TABLE x\n /STATISTICS none.\n"),
+              "other 1: FREQ x\n"
+              "tables 3: TABLES /TABLE x\n /STATISTICS none\n"
+              "not converted 4/14: Unrecognized summary function none\n");
+    EXPECT_NE(m_output.find("Line 4, column 14."), std::string::npos) << m_output;
 }
 
 TEST_F(Listening, TablesCommandThatCannotBeTranslatedHasATree) {

@@ -49,7 +49,7 @@ TEST_F(Recorder, FailedCommandHasItsOldFormAndItsError) {
     EXPECT_EQ(outcome.commands[0].oldText, "TABLES /TABLE.");
     EXPECT_EQ(outcome.commands[0].newText, "");
     EXPECT_EQ(outcome.commands[0].error->line, 2);
-    EXPECT_EQ(outcome.commands[0].error->column, 10);
+    EXPECT_EQ(outcome.commands[0].error->column, 9);
     EXPECT_EQ(outcome.commands[1].error->line, 0);
     EXPECT_EQ(outcome.commands[1].error->text,
               "IGRAPH syntax is not valid, and can't be converted!");
