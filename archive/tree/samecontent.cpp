@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <memory>
+#include <optional>
 #include <sys/stat.h>
 
 #define XXH_INLINE_ALL
@@ -17,7 +18,8 @@ namespace {
 
 using Block = std::array<char, 65536>;
 
-XXH128_hash_t HashOfContent(const FileDescriptor& file) {
+/// Nothing when the file cannot be read.
+std::optional<XXH128_hash_t> HashOfContent(const FileDescriptor& file) {
     const std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state(XXH3_createState(),
                                                                                 &XXH3_freeState);
     XXH3_128bits_reset(state.get());
@@ -26,24 +28,21 @@ XXH128_hash_t HashOfContent(const FileDescriptor& file) {
     while ((count = file.Read(block->data(), block->size())) > 0) {
         XXH3_128bits_update(state.get(), block->data(), static_cast<std::size_t>(count));
     }
-    if (count < 0) {
-        throw SystemError("cannot be read");
-    }
-    return XXH3_128bits_digest(state.get());
+    return count < 0 ? std::nullopt : std::optional(XXH3_128bits_digest(state.get()));
 }
 
 } // namespace
 
 std::string HashOfFile(const std::string& fullPath) {
     const FileDescriptor file = FileDescriptor::Open(fullPath, O_RDONLY);
-    if (!file.IsOpen()) {
+    const auto hash = file.IsOpen() ? HashOfContent(file) : std::nullopt;
+    if (!hash) {
         throw SystemError("cannot be read");
     }
-    const XXH128_hash_t hash = HashOfContent(file);
     std::array<char, 33> text{};
     static_cast<void>(std::snprintf(text.data(), text.size(), "%016llx%016llx",
-                                    static_cast<unsigned long long>(hash.high64),
-                                    static_cast<unsigned long long>(hash.low64)));
+                                    static_cast<unsigned long long>(hash->high64),
+                                    static_cast<unsigned long long>(hash->low64)));
     return text.data();
 }
 
@@ -52,7 +51,9 @@ bool HasContentOf(const FileDescriptor& file, const std::string& fullPath) {
     if (!other.IsOpen() || !other.IsRegular() || SizeOf(file) != SizeOf(other) || !file.Rewind()) {
         return false;
     }
-    return XXH128_isEqual(HashOfContent(file), HashOfContent(other)) != 0;
+    const auto one = HashOfContent(file);
+    const auto another = HashOfContent(other);
+    return one && another && XXH128_isEqual(*one, *another) != 0;
 }
 
 std::uint64_t SizeOf(const FileDescriptor& file) {
