@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <limits>
 #include <string_view>
 
 namespace recastor {
@@ -23,7 +24,8 @@ std::string Timestamp(std::int64_t nanoseconds) {
     if (fraction < 0) {
         fraction += kNanosecondsPerSecond;
     }
-    const std::time_t seconds = (nanoseconds - fraction) / kNanosecondsPerSecond;
+    const std::time_t seconds =
+        nanoseconds / kNanosecondsPerSecond - (nanoseconds % kNanosecondsPerSecond < 0 ? 1 : 0);
     std::tm parts{};
     gmtime_r(&seconds, &parts);
     std::array<char, 64> text{};
@@ -47,7 +49,21 @@ std::optional<std::int64_t> ReadTimestamp(const std::string& text) {
     if (zone - digits != kFractionDigits || std::string_view(zone, end) != "Z") {
         return std::nullopt;
     }
-    return timegm(&parts) * kNanosecondsPerSecond + fraction;
+    return NanosecondsOf(timegm(&parts), fraction);
+}
+
+std::int64_t NanosecondsOf(std::int64_t seconds, std::int64_t fraction) {
+    using Limits = std::numeric_limits<std::int64_t>;
+    if (seconds < 0) { // both parts below 0
+        seconds += 1;
+        fraction -= kNanosecondsPerSecond;
+        return seconds < (Limits::min() - fraction) / kNanosecondsPerSecond
+                   ? Limits::min()
+                   : seconds * kNanosecondsPerSecond + fraction;
+    }
+    return seconds > (Limits::max() - fraction) / kNanosecondsPerSecond
+               ? Limits::max()
+               : seconds * kNanosecondsPerSecond + fraction;
 }
 
 std::int64_t Now() {

@@ -2,6 +2,7 @@
 
 #include "archive/outcome/shownpath.h"
 #include "archive/outcome/showntext.h"
+#include "archive/outcome/timestamp.h"
 #include "archive/tree/outcomerecorder.h"
 #include "archive/tree/pages.h"
 #include "archive/tree/samecontent.h"
@@ -27,8 +28,7 @@ namespace recastor {
 namespace {
 
 std::int64_t Nanoseconds(const struct timespec& time) {
-    constexpr std::int64_t kPerSecond = 1'000'000'000;
-    return time.tv_sec * kPerSecond + time.tv_nsec;
+    return NanosecondsOf(time.tv_sec, time.tv_nsec);
 }
 
 std::uint64_t Size(const struct stat& status) {
