@@ -1,5 +1,7 @@
 #include "archive/outcome/fileoutcome.h"
 
+#include "archive/outcome/outcomenames.h"
+
 #include <array>
 
 namespace recastor {
@@ -8,18 +10,8 @@ namespace {
 
 using Count = std::uint64_t OutcomeCounts::*;
 
-constexpr std::array<Count, 10> kEveryCount{
-    &OutcomeCounts::files,
-    &OutcomeCounts::filesConverted,
-    &OutcomeCounts::filesIncomplete,
-    &OutcomeCounts::filesFailed,
-    &OutcomeCounts::filesSkipped,
-    &OutcomeCounts::commandsConverted,
-    &OutcomeCounts::commandsNotConverted,
-    &OutcomeCounts::commandsCopied,
-    &OutcomeCounts::warnings,
-    &OutcomeCounts::missedLines,
-};
+static_assert(sizeof(OutcomeCounts) == kOutcomeCounts.size() * sizeof(std::uint64_t),
+              "every count has its row");
 
 /// The count that a file of the status adds to, in the order of FileStatus.
 constexpr std::array<Count, 6> kCountOfStatus{
@@ -28,14 +20,14 @@ constexpr std::array<Count, 6> kCountOfStatus{
     &OutcomeCounts::filesFailed,     &OutcomeCounts::filesSkipped,
 };
 
+} // namespace
+
 bool IsConvertible(ReportedKind kind) {
     return kind == ReportedKind::kTables || kind == ReportedKind::kIgraph;
 }
 
-} // namespace
-
 OutcomeCounts& OutcomeCounts::operator+=(const OutcomeCounts& other) {
-    for (const Count count : kEveryCount) {
+    for (const auto& [name, count] : kOutcomeCounts) {
         this->*count += other.*count;
     }
     return *this;

@@ -76,6 +76,9 @@ struct OutcomeCounts {
     OutcomeCounts& operator+=(const OutcomeCounts& other);
 };
 
+/// Whether commands of the kind are converted, not copied.
+bool IsConvertible(ReportedKind kind);
+
 /// The counts of one file.
 OutcomeCounts CountsOf(const FileOutcome& outcome);
 

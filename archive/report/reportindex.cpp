@@ -13,16 +13,9 @@ namespace {
 
 void WriteTotals(const OutcomeCounts& totals, JsonWriter& json) {
     json.BeginObject();
-    json.Member("files", totals.files);
-    json.Member("filesConverted", totals.filesConverted);
-    json.Member("filesIncomplete", totals.filesIncomplete);
-    json.Member("filesFailed", totals.filesFailed);
-    json.Member("filesSkipped", totals.filesSkipped);
-    json.Member("commandsConverted", totals.commandsConverted);
-    json.Member("commandsNotConverted", totals.commandsNotConverted);
-    json.Member("commandsCopied", totals.commandsCopied);
-    json.Member("warnings", totals.warnings);
-    json.Member("missedLines", totals.missedLines);
+    for (const auto& [name, count] : kOutcomeCounts) {
+        json.Member(name, totals.*count);
+    }
     json.EndObject();
 }
 

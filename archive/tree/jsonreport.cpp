@@ -1,3 +1,4 @@
+#include "archive/outcome/outcomenames.h"
 #include "archive/tree/manifest.h"
 #include "archive/tree/reports.h"
 
@@ -7,17 +8,11 @@ namespace recastor {
 
 namespace {
 
-std::string JsonOf(const OutcomeCounts& totals) {
-    const nlohmann::ordered_json json{{"files", totals.files},
-                                      {"filesConverted", totals.filesConverted},
-                                      {"filesIncomplete", totals.filesIncomplete},
-                                      {"filesFailed", totals.filesFailed},
-                                      {"filesSkipped", totals.filesSkipped},
-                                      {"commandsConverted", totals.commandsConverted},
-                                      {"commandsNotConverted", totals.commandsNotConverted},
-                                      {"commandsCopied", totals.commandsCopied},
-                                      {"warnings", totals.warnings},
-                                      {"missedLines", totals.missedLines}};
+std::string JsonOfTotals(const OutcomeCounts& totals) {
+    nlohmann::ordered_json json;
+    for (const auto& [name, count] : kOutcomeCounts) {
+        json[std::string(name)] = totals.*count;
+    }
     return json.dump();
 }
 
@@ -25,7 +20,7 @@ std::string JsonOf(const OutcomeCounts& totals) {
 
 void WriteJsonReport(const std::string& reportFolder, const RunInfo& run,
                      const OutcomeCounts& totals, std::ostream& output) {
-    output << "{\"format\":1,\n\"run\":" << JsonOf(run) << ",\n\"totals\":" << JsonOf(totals)
+    output << "{\"format\":1,\n\"run\":" << JsonOf(run) << ",\n\"totals\":" << JsonOfTotals(totals)
            << ",\n\"files\":[";
     ManifestReader manifest(RunManifest::FileName(reportFolder));
     for (const char* separator = "\n"; manifest.Next(); separator = ",\n") {

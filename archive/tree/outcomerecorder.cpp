@@ -16,10 +16,6 @@ namespace {
 
 constexpr std::array<std::string_view, 2> kConvertedWords{"TABLES", "IGRAPH"};
 
-bool IsConvertible(ReportedKind kind) {
-    return kind == ReportedKind::kTables || kind == ReportedKind::kIgraph;
-}
-
 /// The command as it is written in a file: with its period.
 std::string AsWritten(std::string_view text) {
     std::ostringstream written;
