@@ -43,7 +43,7 @@ bool Holds(const std::vector<const Words*>& lists, std::string_view word) {
 }
 
 /// Whether a function's name, less the prefix U, may stand behind a variable of the kind.
-bool IsSuited(std::string_view name, char kind) {
+bool IsFunctionFor(std::string_view name, char kind) {
     const Suited& suited = *std::find_if(kSuited.begin(), kSuited.end(),
                                          [kind](auto& row) { return row.kind == kind; });
     for (const std::string_view base : kPercentageBases) {
@@ -56,7 +56,8 @@ bool IsSuited(std::string_view name, char kind) {
 
 /// Whether the word is such a function, with or without the prefix.
 bool IsFunction(std::string_view word, char kind) {
-    return IsSuited(word, kind) || (word.starts_with('U') && IsSuited(word.substr(1), kind));
+    return IsFunctionFor(word, kind) ||
+           (word.starts_with('U') && IsFunctionFor(word.substr(1), kind));
 }
 
 /// `F8.2`, `DOLLAR10`: letters, a width, perhaps decimals.

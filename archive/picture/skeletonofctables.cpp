@@ -23,7 +23,7 @@ std::vector<SkeletonStatistic> StatisticsOf(const std::vector<CtablesStatistic>&
 }
 
 /// The total that the table's CATEGORIES subcommands give to a variable.
-std::optional<SkeletonTotal> TotalOf(const std::string& variable, const CtablesTable& table) {
+std::optional<SkeletonTotal> WrittenTotal(const std::string& variable, const CtablesTable& table) {
     for (const CtablesTotal& total : table.totals) {
         if (std::find(total.variables.begin(), total.variables.end(), variable) !=
             total.variables.end()) {
@@ -40,13 +40,13 @@ std::optional<std::string> LabelOf(const std::string& group,
     return found != groups.end() ? TextOf(found->label) : std::nullopt;
 }
 
-SkeletonVariable VariableOf(const CtablesVariable& written, const CtablesTable& table,
-                            const CtablesText& text) {
+SkeletonVariable WrittenVariable(const CtablesVariable& written, const CtablesTable& table,
+                                 const CtablesText& text) {
     SkeletonVariable variable{written.name, written.kind, {}, {}, {}, {}};
     if (written.kind == 'G') {
         variable.label = LabelOf(written.name, text.groups);
     }
-    variable.total = TotalOf(written.name, table);
+    variable.total = WrittenTotal(written.name, table);
     variable.statistics = StatisticsOf(written.statistics);
     variable.totalStatistics = StatisticsOf(written.totals);
     return variable;
@@ -62,13 +62,13 @@ SkeletonDimension DimensionOf(const CtablesExpression& expression, const Ctables
     for (const auto& written : TermsOf(expression)) {
         SkeletonTerm& term = dimension.terms.emplace_back();
         for (const CtablesVariable& variable : written) {
-            term.push_back(VariableOf(variable, table, text));
+            term.push_back(WrittenVariable(variable, table, text));
         }
     }
     return dimension;
 }
 
-std::vector<std::string> HeadingOf(const char* keyword, const CtablesTable& table) {
+std::vector<std::string> WrittenHeading(const char* keyword, const CtablesTable& table) {
     std::vector<std::string> lines;
     if (const auto found = table.headings.find(keyword); found != table.headings.end()) {
         for (const std::string& literal : found->second) {
@@ -109,9 +109,9 @@ TableSkeleton TableOf(const CtablesTable& written, const CtablesText& text) {
     for (const CtablesSort& sort : written.sorts) {
         table.sorts.push_back({sort.variable, sort.order == 'A', sort.key});
     }
-    table.title = HeadingOf("TITLE", written);
-    table.caption = HeadingOf("CAPTION", written);
-    table.corner = HeadingOf("CORNER", written);
+    table.title = WrittenHeading("TITLE", written);
+    table.caption = WrittenHeading("CAPTION", written);
+    table.corner = WrittenHeading("CORNER", written);
     return table;
 }
 

@@ -40,7 +40,7 @@ std::optional<std::string> LabelOfGroup(const std::string& name, const TbTrParse
     return std::nullopt;
 }
 
-SkeletonTotal TotalOf(const OldTotal& total) {
+SkeletonTotal SkeletonOfTotal(const OldTotal& total) {
     const TbTrParseNode* const label = total.declaration->GetChild(0);
     const TbTrParseNode& named = label != nullptr ? *label : *total.declaration;
     return {total.isFollowing, TokenOf(named).AsString(false)};
@@ -56,7 +56,7 @@ SkeletonVariable VariableOf(const OldVariable& old, const OldTable& table,
         variable.label = LabelOfGroup(old.name, node);
     }
     if (const auto total = table.totals.find(old.name); total != table.totals.end()) {
-        variable.total = TotalOf(total->second);
+        variable.total = SkeletonOfTotal(total->second);
     }
     return variable;
 }

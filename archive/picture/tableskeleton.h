@@ -1,8 +1,9 @@
 /// The skeleton of a table: what a reader sees of it before there is any data.
 ///
 /// It is made twice, from the old command's tree (skeletonoftree.h) and from the new command's text
-/// (skeletonofctables.h), by code that shares nothing but this model. Where the conversion is right
-/// both are equal. For that the model holds what the two languages mean alike:
+/// (skeletonofctables.h), by code that shares nothing but this model. The first asks the translator
+/// how names and functions are written in CTABLES, so that a mistake there is in both. Where the
+/// conversion is right both are equal. For that the model holds what the two languages mean alike:
 ///
 /// - A dimension is the list of its terms, the plain nestings that it stacks: `(a + b) > c` and
 ///   `a > c + b > c` are the same two.

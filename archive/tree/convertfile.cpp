@@ -66,7 +66,7 @@ FileDescriptor FileInMemory() {
 }
 
 /// Whether every command of a file that was read to its end has a new form.
-FileStatus StatusOf(const FileOutcome& outcome) {
+FileStatus StatusAtEnd(const FileOutcome& outcome) {
     const OutcomeCounts counts = CountsOf(outcome);
     if (counts.commandsNotConverted > 0) {
         return FileStatus::kIncomplete;
@@ -226,7 +226,7 @@ void FileConverter::ConvertText(InputFile& input, const FileDescriptor& target,
         throw SystemError("cannot write the target");
     }
     outcome.targetSize = SizeOf(target);
-    outcome.status = whole ? StatusOf(outcome) : FileStatus::kEnded;
+    outcome.status = whole ? StatusAtEnd(outcome) : FileStatus::kEnded;
     if (!whole) {
         outcome.message = outcome.commands.back().error->text;
     }

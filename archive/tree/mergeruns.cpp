@@ -19,7 +19,7 @@ namespace recastor {
 namespace {
 
 /// The runs as one: it began with the first and ended with the last.
-RunInfo Joined(const std::vector<RunInfo>& runs) {
+RunInfo JoinedRuns(const std::vector<RunInfo>& runs) {
     RunInfo all = runs.front();
     for (const RunInfo& run : runs) {
         if (run.shards != all.shards || run.settings != all.settings) {
@@ -99,7 +99,7 @@ int RunMerge(const TreeOptions& options) {
         for (const std::string& folder : options.merge) {
             runs.push_back(ReadRun(folder));
         }
-        RunInfo run = Joined(runs);
+        RunInfo run = JoinedRuns(runs);
         MakeFolders(options.report);
         TreeTotals totals;
         const bool missing = TellMissingShards(run);

@@ -77,7 +77,7 @@ std::optional<std::string> TakePacket(std::string& received) {
     return packet;
 }
 
-FileJob JobOf(std::string_view packet) {
+FileJob JobOfPacket(std::string_view packet) {
     FileJob job;
     job.path = Take<std::string>(packet);
     job.twin = Take<std::string>(packet);
@@ -85,7 +85,7 @@ FileJob JobOf(std::string_view packet) {
     return job;
 }
 
-FileResult ResultOf(std::string_view packet) {
+FileResult ResultOfPacket(std::string_view packet) {
     FileResult result;
     result.line = Take<std::string>(packet);
     result.rows.csv = Take<std::string>(packet);

@@ -17,7 +17,7 @@ std::string PacketOf(const FileResult& result);
 std::optional<std::string> TakePacket(std::string& received);
 
 /// What a packet says.
-FileJob JobOf(std::string_view packet);
-FileResult ResultOf(std::string_view packet);
+FileJob JobOfPacket(std::string_view packet);
+FileResult ResultOfPacket(std::string_view packet);
 
 } // namespace recastor

@@ -39,7 +39,7 @@ std::uint64_t CountFiles(const TreeOptions& options) {
 }
 
 /// The result for what the walk found in the place of a file.
-FileResult ResultOf(const WalkEntry& entry, const TreeOptions& options) {
+FileResult ResultOfEntry(const WalkEntry& entry, const TreeOptions& options) {
     FileOutcome outcome;
     outcome.path = entry.path;
     outcome.status = entry.failed ? FileStatus::kFailed : FileStatus::kSkipped;
@@ -128,7 +128,7 @@ private:
             pool.Give(
                 {number, {entry->path, entry->twin, m_options.WritesTargets() ? previous : ""}});
         } else {
-            m_waiting.emplace(number, ResultOf(*entry, m_options));
+            m_waiting.emplace(number, ResultOfEntry(*entry, m_options));
         }
         return true;
     }

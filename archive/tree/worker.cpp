@@ -20,7 +20,7 @@ std::optional<FileJob> ReceiveJob(const FileDescriptor& socket, std::string& rec
     std::array<char, 65536> block{};
     for (;;) {
         if (const auto packet = TakePacket(received)) {
-            return JobOf(*packet);
+            return JobOfPacket(*packet);
         }
         const long count = socket.Read(block.data(), block.size());
         if (count <= 0) {

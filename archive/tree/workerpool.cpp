@@ -142,7 +142,7 @@ void WorkerPool::Serve(Worker& worker, bool readable, bool writable) {
         const std::uint64_t number = worker.jobs.front().number;
         worker.jobs.pop_front();
         worker.start = m_now();
-        m_take(number, ResultOf(*packet));
+        m_take(number, ResultOfPacket(*packet));
     }
     if (!open) {
         int status = 0;
