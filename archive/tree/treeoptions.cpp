@@ -15,6 +15,7 @@ namespace {
 constexpr int kUsageError = 2;
 constexpr unsigned kMostJobs = 1024;
 constexpr unsigned kUsualTimeLimit = 60;
+constexpr unsigned kLongestTime = 1'000'000; // seconds
 constexpr const char* kUsualFiles = "*.[sS][yY][nN]";
 constexpr const char* kReportFolder = "recastor-report";
 
@@ -69,7 +70,8 @@ void AddOptions(CLI::App& app, Arguments& arguments) {
         ->type_name("warning|error")
         ->check(CLI::IsMember({"warning", "error"}).description(""));
     app.add_option("--time-limit", options.timeLimit, "Seconds for one file; 0: no limit")
-        ->type_name("SECONDS");
+        ->type_name("SECONDS")
+        ->check(CLI::Range(0U, kLongestTime).description(""));
     app.add_flag("-q,--quiet", options.quiet, "Tell neither progress nor summary");
     app.add_option("--shard", arguments.shard, "Convert the I-th of N shares of the files")
         ->type_name("I/N");

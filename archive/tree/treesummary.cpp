@@ -8,7 +8,9 @@ namespace recastor {
 void PrintSummary(const TreeTotals& totals, const TreeOptions& options, std::ostream& output) {
     const OutcomeCounts& counts = totals.counts;
     if (totals.interrupted) {
-        output << "interrupted: the same command goes on where this run ended\n";
+        output << (options.merge.empty()
+                       ? "interrupted: the same command goes on where this run ended\n"
+                       : "not all: a share is missing or was interrupted\n");
     }
     output << counts.files << " files: " << counts.filesConverted << " converted, "
            << counts.filesIncomplete << " incomplete, " << counts.filesFailed << " failed, "

@@ -72,6 +72,15 @@ TEST_F(BadInput, WhatIsNoRegularFileIsNotOpened) {
     EXPECT_EQ(Message("folder.syn"), "no entry");
 }
 
+TEST_F(BadInput, TimeLimitsThatAreNoneAreTold) {
+    for (const std::string value : {"-1", "x", "1000001"}) {
+        const RunResult result = Run({"--time-limit=" + value});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_THAT(result.errors,
+                    HasSubstr("--time-limit: Value " + value + " not in range 0 to 1000000"));
+    }
+}
+
 TEST_F(BadInput, NamesThatDifferInCaseOnlyAreTold) {
     Put("Report.syn", kTable);
     Put("report.syn", kTable);

@@ -89,6 +89,7 @@ TEST_F(Shards, MissingShardIsTold) {
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.errors, HasSubstr("shard 2/4 is missing\n"));
     EXPECT_THAT(result.errors, HasSubstr("shard 4/4 is missing\n"));
+    EXPECT_TRUE(result.output.starts_with("not all: a share is missing or was interrupted\n"));
 }
 
 TEST_F(Shards, ManifestThatIsMissingOrUnreadableIsNoEmptyOne) {
