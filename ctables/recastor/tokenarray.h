@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ctables/recastor/zelktokenvector.h"
+#include "platform/zelkbase/smallobjects.h"
 
 #include <cstddef>
 #include <memory>
@@ -11,7 +12,7 @@ namespace recastor {
 
 /// Owns every token that was ever appended; what the clearing operations take out of the array
 /// without deleting it is kept aside, since readers may still hold it.
-class ZELKTokenVector::TokenVector {
+class ZELKTokenVector::TokenVector : public SmallObject {
 public:
     TokenVector() = default;
     /// Copies the tokens one by one.

@@ -3,12 +3,13 @@
 #include "ctables/recastor/commandboundary.h"
 #include "ctables/recastor/zelkname.h"
 #include "ctables/recastor/zelktokenvector.h"
+#include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 
 namespace recastor {
 
 /// The tokens and the reader's place among them.
-class ZELKTokenSequenceImp {
+class ZELKTokenSequenceImp : public SmallObject {
 public:
     ZELKTokenSequenceImp(const std::string& text, bool batch, int maxTokens) :
         m_tokenVec(text.c_str(), batch, maxTokens) {

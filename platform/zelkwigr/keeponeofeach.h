@@ -11,6 +11,9 @@ namespace recastor {
 /// Drops every entry whose name an earlier one has. `nameOf` gives an entry's name.
 template <class Entry, class NameOf>
 void KeepFirstOfEach(std::vector<Entry>& entries, NameOf nameOf) {
+    if (entries.size() < 2) { // as in most charts
+        return;
+    }
     std::unordered_set<std::string> seen;
     std::erase_if(entries, [&](const Entry& entry) { return !seen.insert(nameOf(entry)).second; });
 }
