@@ -5,25 +5,38 @@
 #include "platform/zelkwigr/gpllines.h"
 #include "platform/zelkwigr/gpltext.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace recastor {
 
 namespace {
 
-std::string DimensionTitle(const ChartDimension& dimension) {
-    return dimension.title.empty() ? GplString(VariableLabel(dimension.variable))
-                                   : GplString(dimension.title);
+using Lines = std::vector<std::string>;
+
+/// The label of a title's lines, of `untitled` when there are none.
+void AppendLabel(const Lines& title, std::string_view untitled, std::string& text) {
+    text += "label(";
+    if (title.empty()) {
+        AppendGplString(untitled, text);
+    } else {
+        AppendGplString(title, text);
+    }
+    text += ')';
 }
 
-std::string MeasureTitle(const ChartFacts& facts) {
-    return facts.y->title.empty() ? GplString(MeasureLabel(facts)) : GplString(facts.y->title);
+/// `place` is what follows the title, with its comma.
+void AppendAxis(int dimension, const Lines& title, std::string_view untitled,
+                std::string_view place, std::string& text) {
+    BeginGplLine(text, "GUIDE", {"axis(dim(", std::to_string(dimension), "), "});
+    AppendLabel(title, untitled, text);
+    text += place;
+    text += ")\n";
 }
 
-/// `title` is a string, `place` what follows the title with its comma.
-void AppendAxis(int dimension, std::string_view title, const char* place, std::string& text) {
-    AppendGplLine(text, "GUIDE",
-                  {"axis(dim(", std::to_string(dimension), "), label(", title, ")", place, ")"});
+void AppendAxis(int dimension, const ChartDimension& axis, std::string& text) {
+    AppendAxis(dimension, axis.title, VariableLabel(axis.variable), "", text);
 }
 
 void AppendAxes(const ChartFacts& facts, std::string& text) {
@@ -33,16 +46,17 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
                       {"axis(dim(", std::to_string(dimensions.measure), "), null())"});
     } else {
         if (facts.chart.x1) {
-            AppendAxis(dimensions.x1, DimensionTitle(*facts.chart.x1), "", text);
+            AppendAxis(dimensions.x1, *facts.chart.x1, text);
         }
         if (facts.chart.x2) {
-            AppendAxis(dimensions.x2, DimensionTitle(*facts.chart.x2), "", text);
+            AppendAxis(dimensions.x2, *facts.chart.x2, text);
         }
-        AppendAxis(dimensions.measure, MeasureTitle(facts), "", text);
+        const Lines& title = facts.y->title;
+        AppendAxis(dimensions.measure, title, title.empty() ? MeasureLabel(facts) : "", "", text);
     }
     int panelDimension = dimensions.firstPanel;
     for (const ChartVariable& panel : facts.chart.panels) {
-        AppendAxis(panelDimension, GplString(VariableLabel(panel)), ", opposite()", text);
+        AppendAxis(panelDimension, {}, VariableLabel(panel), ", opposite()", text);
         ++panelDimension;
     }
 }
@@ -50,29 +64,32 @@ void AppendAxes(const ChartFacts& facts, std::string& text) {
 void AppendLegends(const ChartFacts& facts, std::string& text) {
     for (const ShownAesthetic& shown : ShownAesthetics(facts)) {
         const ChartDimension& dimension = *shown.dimension;
+        BeginGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), "});
         if (dimension.legend) {
-            AppendGplLine(
-                text, "GUIDE",
-                {"legend(aesthetic(", shown.name, "), label(", DimensionTitle(dimension), "))"});
+            AppendLabel(dimension.title, VariableLabel(dimension.variable), text);
         } else {
-            AppendGplLine(text, "GUIDE", {"legend(aesthetic(", shown.name, "), null())"});
+            text += "null()";
         }
+        text += ")\n";
     }
 }
 
 void AppendTexts(const ChartModel& chart, std::string& text) {
     const struct {
         const char* guide;
-        const std::vector<std::string>& lines;
+        const Lines& lines;
     } rows[] = {
         {"text.title", chart.title},
         {"text.subtitle", chart.subtitle},
         {"text.footnote", chart.caption},
     };
     for (const auto& row : rows) {
-        const std::string string = GplString(row.lines);
-        if (string != "\"\"") {
-            AppendGplLine(text, "GUIDE", {row.guide, "(label(", string, "))"});
+        const bool isBlank =
+            row.lines.empty() || (row.lines.size() == 1 && row.lines.front().empty());
+        if (!isBlank) {
+            BeginGplLine(text, "GUIDE", {row.guide, "("});
+            AppendLabel(row.lines, {}, text);
+            text += ")\n";
         }
     }
 }

@@ -22,16 +22,6 @@ void AppendEscaped(std::string& text, std::string_view plain) {
     text.append(first, plain.end());
 }
 
-void BeginLine(std::string& text, std::string_view keyword,
-               std::initializer_list<std::string_view> pieces) {
-    text += ' ';
-    text += keyword;
-    text += ": ";
-    for (const std::string_view piece : pieces) {
-        text += piece;
-    }
-}
-
 } // namespace
 
 std::string GplNumber(double value) {
@@ -49,26 +39,25 @@ std::string GplNumber(double value) {
 std::string GplString(std::string_view text) {
     std::string quoted;
     quoted.reserve(text.size() + std::string_view("\"\"").size());
-    quoted += '"';
-    AppendEscaped(quoted, text);
-    return quoted += '"';
+    AppendGplString(text, quoted);
+    return quoted;
 }
 
-std::string GplString(const std::vector<std::string>& lines) {
-    std::size_t size = std::string_view("\"\"").size();
-    for (const std::string& line : lines) {
-        size += std::string_view("\\n").size() + line.size();
-    }
-    std::string quoted;
-    quoted.reserve(size);
-    quoted += '"';
+void AppendGplString(std::string_view plain, std::string& text) {
+    text += '"';
+    AppendEscaped(text, plain);
+    text += '"';
+}
+
+void AppendGplString(const std::vector<std::string>& lines, std::string& text) {
+    text += '"';
     std::string_view separator;
     for (const std::string& line : lines) {
-        quoted += separator;
-        AppendEscaped(quoted, line);
+        text += separator;
+        AppendEscaped(text, line);
         separator = "\\n";
     }
-    return quoted += '"';
+    text += '"';
 }
 
 std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments) {
@@ -102,16 +91,26 @@ std::string GplDimensions(const std::vector<int>& dimensions) {
     return call += ')';
 }
 
+void BeginGplLine(std::string& text, std::string_view keyword,
+                  std::initializer_list<std::string_view> pieces) {
+    text += ' ';
+    text += keyword;
+    text += ": ";
+    for (const std::string_view piece : pieces) {
+        text += piece;
+    }
+}
+
 void AppendGplLine(std::string& text, std::string_view keyword,
                    std::initializer_list<std::string_view> statement) {
-    BeginLine(text, keyword, statement);
+    BeginGplLine(text, keyword, statement);
     text += '\n';
 }
 
 void AppendGplCallLine(std::string& text, std::string_view keyword,
                        std::initializer_list<std::string_view> call,
                        std::initializer_list<std::string_view> arguments) {
-    BeginLine(text, keyword, call);
+    BeginGplLine(text, keyword, call);
     for (const std::string_view argument : arguments) {
         if (!argument.empty()) {
             text += ", ";

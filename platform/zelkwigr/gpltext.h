@@ -15,8 +15,11 @@ std::string GplNumber(double value);
 /// A string in double quotes; double quotes and backslashes in it are escaped.
 std::string GplString(std::string_view text);
 
+/// The same, appended to `text`.
+void AppendGplString(std::string_view plain, std::string& text);
+
 /// Several lines as one string.
-std::string GplString(const std::vector<std::string>& lines);
+void AppendGplString(const std::vector<std::string>& lines, std::string& text);
 
 /// `name(a, b, c)`; an argument that is empty is left out.
 std::string GplCall(std::string_view name, std::initializer_list<std::string_view> arguments);
@@ -24,7 +27,11 @@ std::string GplCall(std::string_view name, std::initializer_list<std::string_vie
 /// `dim(1,3)`.
 std::string GplDimensions(const std::vector<int>& dimensions);
 
-/// Appends the line ` KEYWORD: statement` and its line feed; the statement comes in pieces.
+/// Appends the beginning of a line, ` KEYWORD: statement`; the statement comes in pieces.
+void BeginGplLine(std::string& text, std::string_view keyword,
+                  std::initializer_list<std::string_view> statement);
+
+/// The same of a whole line, with its line feed.
 void AppendGplLine(std::string& text, std::string_view keyword,
                    std::initializer_list<std::string_view> statement);
 

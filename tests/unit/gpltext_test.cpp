@@ -7,6 +7,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -85,11 +86,20 @@ TEST(GplString, QuotesAndBackslashesAreEscaped) {
 }
 
 TEST(GplString, LinesAreJoinedByABackslashAndN) {
-    using Lines = std::vector<std::string>;
-    EXPECT_EQ(GplString(Lines{"Sales", "region"}), "\"Sales\\nregion\"");
-    EXPECT_EQ(GplString(Lines{"one"}), "\"one\"");
-    EXPECT_EQ(GplString(Lines{"a\"", "", "\\n"}), "\"a\\\"\\n\\n\\\\n\"");
-    EXPECT_EQ(GplString(Lines{}), "\"\"");
+    struct Row {
+        std::vector<std::string> lines;
+        const char* text;
+    };
+    for (const Row& row : {
+             Row{{"Sales", "region"}, "x\"Sales\\nregion\""},
+             Row{{"one"}, "x\"one\""},
+             Row{{"a\"", "", "\\n"}, "x\"a\\\"\\n\\n\\\\n\""},
+             Row{{}, "x\"\""},
+         }) {
+        std::string text = "x";
+        AppendGplString(row.lines, text);
+        EXPECT_EQ(text, row.text);
+    }
 }
 
 TEST(GplCall, ArgumentsThatAreEmptyAreLeftOut) {
