@@ -92,11 +92,11 @@ std::string GplDimensions(const std::vector<int>& dimensions) {
 }
 
 void BeginGplLine(std::string& text, std::string_view keyword,
-                  std::initializer_list<std::string_view> pieces) {
+                  std::initializer_list<std::string_view> statement) {
     text += ' ';
     text += keyword;
     text += ": ";
-    for (const std::string_view piece : pieces) {
+    for (const std::string_view piece : statement) {
         text += piece;
     }
 }
