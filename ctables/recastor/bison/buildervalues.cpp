@@ -19,6 +19,14 @@ TbTrParseNode* NodeOfToken(OpaqueValue value, TbTrParseNode* (*make)(ZELKToken*)
     return node;
 }
 
+/// An empty list; one of variables finds them by their names.
+TbTrParseNode* NewList(int listType) {
+    if (listType == TBI_VARLIST) {
+        return new TbTrNameListNode(listType);
+    }
+    return new TbTrParseNode(listType, nullptr);
+}
+
 } // namespace
 
 OpaqueValue NodeValue(TbTrParseNode* node) {
@@ -30,8 +38,7 @@ OpaqueValue NodeValue(TbTrParseNode* node) {
 
 OpaqueValue AppendToList(OpaqueValue list, int listType, OpaqueValue element) {
     if (OpaqueValue_IsEmpty(list)) {
-        list = NodeValue(listType == TBI_VARLIST ? new TbTrNameListNode(listType)
-                                                 : new TbTrParseNode(listType, nullptr));
+        list = NodeValue(NewList(listType));
     }
     ZELK_ASSERT(OpaqueValue_CheckParseNode(list, listType));
     TbTrParseNode* const node = OpaqueValue_GiveUpParseNode(list);
