@@ -142,7 +142,6 @@ TEST_F(Limits, DimensionsWithoutStatisticsAreNotMultipliedOut) {
     EXPECT_EQ(1000, Count(text, "b[C]"));
 }
 
-#ifndef __SANITIZE_ADDRESS__ // which needs more memory than that for itself
 TEST_F(Limits, HundredThousandNamedArgumentsAreFound) {
     const std::string list = DifferentNames(100000);
     const std::string text =
@@ -158,6 +157,7 @@ TEST_F(Limits, HundredThousandBaseVariablesAreFound) {
     EXPECT_THAT(text, HasSubstr("x[C][COLPCT.VALIDN] BY v0[C]+v1[C]"));
 }
 
+#ifndef __SANITIZE_ADDRESS__ // which needs more memory than that for itself
 TEST_F(Limits, MemoryThatIsNotThereIsTold) {
     WriteFile(Folder().Path() / "input.syn",
               "TITLE 'first'.\nTABLES /TABLE " + Repeated("a", 1000000, "+") + ".\n");
