@@ -41,6 +41,31 @@ const std::string& MessageNumber(const Table& table, int number) {
     return *table[static_cast<std::size_t>(number) - 1];
 }
 
+/// An error of a TABLES command. The line is 1-based within the command; the column is as tokens
+/// count it, from 1 on the first line and from 0 on later ones.
+struct CommandError {
+    int line;
+    int column;
+    std::string reason;
+};
+
+/// What the global classifier has recorded; nothing when there is no error.
+std::optional<CommandError> ErrorInCommand() {
+    CommandError error{};
+    int keywordCode = 0;
+    std::string argument;
+    const TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
+    const int type = command.GetParseErrorInfo(error.line, error.column, keywordCode, argument);
+    if (type == TbTrTablesCommand::kNoError) {
+        return std::nullopt;
+    }
+    if (type == TbTrTablesCommand::kBadArgument) {
+        argument = TbTrTablesCommand::KeywordFromCode(keywordCode);
+    }
+    SCFormatString(error.reason, MessageNumber(ParseErrorTable(), type), argument);
+    return error;
+}
+
 } // namespace
 
 void GetParseErrorStrings(const ParseError& error, std::string& first, std::string& second) {
@@ -66,31 +91,21 @@ void PrintErrorLine(const std::string& text, std::ostream& out) {
 }
 
 std::optional<ConversionError> RecordedError(long lineOffset) {
-    int line = 0;
-    int column = 0;
-    int keywordCode = 0;
-    std::string argument;
-    const TbTrTablesCommand& command = TbTrTablesCommand::g_tablesCommand;
-    const int error = command.GetParseErrorInfo(line, column, keywordCode, argument);
-    if (error == TbTrTablesCommand::kNoError) {
+    const auto error = ErrorInCommand();
+    if (!error) {
         return std::nullopt;
     }
-    if (error == TbTrTablesCommand::kBadArgument) {
-        argument = TbTrTablesCommand::KeywordFromCode(keywordCode);
-    }
-    std::string reason;
-    SCFormatString(reason, MessageNumber(ParseErrorTable(), error), argument);
-    // Tokens count from 1 on a command's first line and from 0 on later ones.
-    return ConversionError{line + lineOffset, line > 1 ? column + 1 : column, reason};
+    const int column = error->line > 1 ? error->column + 1 : error->column;
+    return ConversionError{error->line + lineOffset, column, error->reason};
 }
 
 void PrintParseOrTranslateError(std::ostream& out, long lineOffset) {
-    if (const auto error = RecordedError(lineOffset)) {
+    if (const auto error = ErrorInCommand()) {
         // The message has always taken columns to be counted from 0 on every line.
-        const bool isFirstLine = error->line <= lineOffset + 1;
-        const int column = isFirstLine ? error->column + 1 : error->column;
-        PrintErrorLine(FormatLineAndColumn(IDS_PTERROR_MAIN, error->line, column), out);
-        PrintErrorLine(error->text, out);
+        PrintErrorLine(
+            FormatLineAndColumn(IDS_PTERROR_MAIN, error->line + lineOffset, error->column + 1),
+            out);
+        PrintErrorLine(error->reason, out);
     }
 }
 

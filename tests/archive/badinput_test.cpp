@@ -16,6 +16,13 @@ using testing::Not;
 
 namespace {
 
+/// The environment of a run in which every call of this name finds the disk full.
+std::vector<std::string> FullDiskIsToldBy(const std::string& call) {
+    return {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY,
+            "RECASTOR_FAULT=" + call + ":1+:" + std::to_string(ENOSPC),
+            "ASAN_OPTIONS=verify_asan_link_order=0"};
+}
+
 class BadInput : public ArchiveTree {
 protected:
     std::string Message(const std::string& path) const {
@@ -209,10 +216,8 @@ TEST_F(BadInput, NothingIsWrittenThroughALinkInTheReport) {
 
 TEST_F(BadInput, ReportThatFailsAtItsCloseTakesNoPlace) {
     Put("a.syn", kTable);
-    const RunResult result = Run({"--report", m_folder.Path() / "report"},
-                                 {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY,
-                                  "RECASTOR_FAULT=close:1+:" + std::to_string(ENOSPC),
-                                  "ASAN_OPTIONS=verify_asan_link_order=0"});
+    const RunResult result =
+        Run({"--report", m_folder.Path() / "report"}, FullDiskIsToldBy("close"));
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.errors, HasSubstr("/report/run.json: No space left on device\n"));
     EXPECT_TRUE(fs::is_empty(m_folder.Path() / "report"));
@@ -221,10 +226,8 @@ TEST_F(BadInput, ReportThatFailsAtItsCloseTakesNoPlace) {
 TEST_F(BadInput, FullDiskIsToldCountedAndSurvived) {
     Put("a.syn", kTable);
     Put("b.syn", kTable);
-    const RunResult result = Run({"--report", m_folder.Path() / "report"},
-                                 {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY,
-                                  "RECASTOR_FAULT=write:1+:" + std::to_string(ENOSPC),
-                                  "ASAN_OPTIONS=verify_asan_link_order=0"});
+    const RunResult result =
+        Run({"--report", m_folder.Path() / "report"}, FullDiskIsToldBy("write"));
     EXPECT_EQ(result.status, 2);
     EXPECT_NE(result.errors, "");
     EXPECT_FALSE(HasTarget("a.syn"));
