@@ -1,5 +1,6 @@
 #include "ctables/recastor/outputfile.h"
 
+#include "ctables/recastor/neighbours.h"
 #include "ctables/recastor/printcommand.h"
 
 #include <fcntl.h>
@@ -14,21 +15,13 @@ namespace {
 /// Whole lines are written in blocks of about this many bytes.
 constexpr std::size_t kBlockSize = 65536;
 
-/// How many bytes at the front of `text`, which begins a line, are whole lines that hold more than
-/// white space.
-std::size_t SizeOfFilledLines(std::string_view text) {
-    std::size_t size = 0;
-    for (std::size_t i = 0; i < text.size(); i = size) {
-        while (i < text.size() && IsWhiteSpace(text[i]) && text[i] != '\n') {
-            ++i;
-        }
-        const auto lineFeed = text.find('\n', i);
-        if (lineFeed == i || lineFeed == std::string_view::npos) {
-            break;
-        }
-        size = lineFeed + 1;
-    }
-    return size;
+/// Whether each of these lines surely holds more than white space: one that does not ends in some,
+/// or is its line feed alone.
+bool AreFilledLines(std::string_view lines) {
+    return lines.front() != '\n' && !IsAnywhere(lines, [](Neighbours c, Neighbours next) {
+               const Neighbours isBlankOrControl = (c >= 0) & (c <= ' ');
+               return isBlankOrControl & (next == '\n');
+           });
 }
 
 } // namespace
@@ -43,16 +36,16 @@ LineWriteBuffer::int_type LineWriteBuffer::overflow(int_type c) {
 
 std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count) {
     std::string_view rest(text, static_cast<std::size_t>(count));
-    for (;;) {
-        rest.remove_prefix(AppendFilledLines(rest));
-        const auto lineFeed = rest.find('\n');
-        m_block += rest.substr(0, lineFeed);
-        if (lineFeed == std::string_view::npos) {
-            return count;
-        }
-        rest.remove_prefix(lineFeed + 1);
-        EndLine();
+    if (m_lineStart < m_block.size()) {
+        AppendLine(rest);
     }
+    if (rest.find('\n') != std::string_view::npos) {
+        AppendFilledLines(rest);
+    }
+    while (!rest.empty()) {
+        AppendLine(rest);
+    }
+    return count;
 }
 
 int LineWriteBuffer::sync() {
@@ -62,16 +55,24 @@ int LineWriteBuffer::sync() {
     return 0;
 }
 
-std::size_t LineWriteBuffer::AppendFilledLines(std::string_view text) {
-    if (m_crLf || m_lineStart < m_block.size()) {
-        return 0;
+void LineWriteBuffer::AppendLine(std::string_view& text) {
+    const auto lineFeed = text.find('\n');
+    m_block += text.substr(0, lineFeed);
+    if (lineFeed == std::string_view::npos) {
+        text = {};
+        return;
     }
-    const std::size_t size = SizeOfFilledLines(text);
-    if (size > 0) {
-        m_block += text.substr(0, size);
+    text.remove_prefix(lineFeed + 1);
+    EndLine();
+}
+
+void LineWriteBuffer::AppendFilledLines(std::string_view& text) {
+    const std::string_view lines = text.substr(0, text.rfind('\n') + 1);
+    if (!m_crLf && AreFilledLines(lines)) {
+        m_block += lines;
         EndBlockOfLines();
+        text.remove_prefix(lines.size());
     }
-    return size;
 }
 
 void LineWriteBuffer::EndLine() {

@@ -33,9 +33,11 @@ protected:
     int sync() override;
 
 private:
-    /// Appends the lines at the front of `text` that are written as they stand, if a line may begin
-    /// here; returns their bytes.
-    std::size_t AppendFilledLines(std::string_view text);
+    /// Appends the first line of `text`, or as much of it as there is, and takes it off the text.
+    void AppendLine(std::string_view& text);
+    /// The same for all whole lines of `text`, of which there are some, at once, when they are
+    /// written as they stand; else does nothing. No line is at hand.
+    void AppendFilledLines(std::string_view& text);
     void EndLine();
     /// The block ends in a line that is written.
     void EndBlockOfLines();
