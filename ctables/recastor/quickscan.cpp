@@ -1,13 +1,12 @@
 #include "ctables/recastor/quickscan.h"
 
 #include "ctables/recastor/lexicalchars.h"
+#include "ctables/recastor/neighbours.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace recastor {
 
@@ -22,6 +21,7 @@ enum class Start : std::uint8_t {
     kPeriod,
     kQuote,
     kSlash,
+    kMacro,
     kOperator, ///< operators of several characters are taken piece by piece
 };
 
@@ -39,6 +39,8 @@ constexpr Start StartOf(int code) {
         return Start::kQuote;
     case '/':
         return Start::kSlash;
+    case '!':
+        return Start::kMacro;
     default:
         break;
     }
@@ -80,49 +82,20 @@ bool IsHigh(char c) {
     return static_cast<unsigned char>(c) >= 0x80;
 }
 
-/// Neighbouring characters, which are asked about all at once. What a comparison answers is such a
-/// value as well: every bit of a yes is set, none of a no.
-using Characters [[gnu::vector_size(16)]] = signed char;
-
-Characters Load(const char* first) {
-    Characters characters;
-    std::memcpy(&characters, first, sizeof characters);
-    return characters;
-}
-
 /// A control character or not ASCII: the bytes there are negative.
-Characters IsControlOrHigh(Characters c) {
+Neighbours IsControlOrHigh(Neighbours c) {
     return (c < ' ') | (c == 0x7F);
 }
-Characters IsQuoteMark(Characters c) {
+Neighbours IsQuoteMark(Neighbours c) {
     return (c == '\'') | (c == '"');
 }
-Characters OpensComment(Characters c, Characters next) {
+Neighbours OpensComment(Neighbours c, Neighbours next) {
     return (c == '/') & (next == '*');
 }
 /// A digit or a point that an exponent or a hexadecimal digit may follow.
-Characters MayBeOddNumber(Characters c, Characters next) {
-    const Characters lowerNext = next | ('a' - 'A');
+Neighbours MayBeOddNumber(Neighbours c, Neighbours next) {
+    const Neighbours lowerNext = next | ('a' - 'A');
     return (((c >= '0') & (c <= '9')) | (c == '.')) & ((lowerNext == 'e') | (lowerNext == 'x'));
-}
-
-/// Whether the answer is yes for any character of the text, which is not empty, and the one behind
-/// it. The last character only stands behind.
-template <typename Question>
-bool IsAnywhere(std::string_view text, const Question& question) {
-    constexpr std::size_t kWidth = sizeof(Characters);
-    std::array<char, kWidth + 1> padded{};
-    if (text.size() < padded.size()) {
-        padded.fill(' ');
-        text.copy(padded.data(), text.size() - 1);
-        text = {padded.data(), padded.size()};
-    }
-    const char* const last = text.data() + text.size() - padded.size();
-    Characters answer = question(Load(last), Load(last + 1));
-    for (const char* place = text.data(); place < last; place += kWidth) {
-        answer |= question(Load(place), Load(place + 1));
-    }
-    return std::bit_cast<std::array<std::uint64_t, 2>>(answer) != std::array<std::uint64_t, 2>{};
 }
 
 /// Behind the quote that closes the segment which opens at `quote`, when its line closes it with
@@ -156,6 +129,15 @@ const char* BehindNumber(const char* first, const char* end) {
     return clear && isShort ? place : nullptr;
 }
 
+/// Behind a macro's name or parameter, whose mark stands in front of `next`.
+const char* BehindMacroToken(const char* next, const char* end) {
+    if (next != end && *next == '*') {
+        return next + 1;
+    }
+    const char* const behindDigits = Skip(next, end, gDigits);
+    return behindDigits != next ? behindDigits : Skip(next, end, gWordChars);
+}
+
 /// Behind the token at `place` when it is surely well-formed, or behind a part of it; else null.
 /// A word stops before a byte that is not ASCII, which then is left to the full walk.
 const char* BehindToken(const char* place, const char* end) {
@@ -171,6 +153,8 @@ const char* BehindToken(const char* place, const char* end) {
         return BehindLiteral(place, end);
     case Start::kSlash:
         return next != end && *next == '*' ? nullptr : next;
+    case Start::kMacro:
+        return BehindMacroToken(next, end);
     case Start::kOperator:
         return next;
     default:
@@ -240,10 +224,9 @@ std::string_view TextAndOneMore(std::string_view line) {
 /// Whether the text needs a closer look for a character that no token begins with, or for one that
 /// begins what may be faulty.
 bool MayHoldFaultyToken(std::string_view text) {
-    return IsAnywhere(text, [](Characters c, Characters next) {
-        const Characters isBlank = (c == '\t') | (c == '\n') | (c == '\r');
-        const Characters isOddSign =
-            (c == '!') | (c == '&') | (c == '\\') | (c == '^') | (c == '`');
+    return IsAnywhere(text, [](Neighbours c, Neighbours next) {
+        const Neighbours isBlank = (c == '\t') | (c == '\n') | (c == '\r');
+        const Neighbours isOddSign = (c == '&') | (c == '\\') | (c == '^') | (c == '`');
         return (IsControlOrHigh(c) & ~isBlank) | IsQuoteMark(c) | isOddSign |
                OpensComment(c, next) | MayBeOddNumber(c, next);
     });
@@ -255,14 +238,14 @@ std::optional<int> QuickEndOfCommand(std::string_view line) {
     if (!line.ends_with('\n')) {
         return std::nullopt;
     }
-    const bool isPlain = !IsAnywhere(TextAndOneMore(line), [](Characters c, Characters next) {
+    const bool isPlain = !IsAnywhere(TextAndOneMore(line), [](Neighbours c, Neighbours next) {
         return IsQuoteMark(c) | OpensComment(c, next) | (IsControlOrHigh(c) & (c != '\t'));
     });
     return isPlain ? PeriodAtEnd(line) : EndOutsideQuotes(line);
 }
 
 std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
-    const auto isOdd = [](Characters c, Characters /*next*/) {
+    const auto isOdd = [](Neighbours c, Neighbours /*next*/) {
         return IsControlOrHigh(c) & (c != '\t');
     };
     if (!line.ends_with('\n') || IsAnywhere(TextAndOneMore(line), isOdd)) {
@@ -294,7 +277,11 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
         ++first;
     }
     first = Skip(first, end, gBlanks);
-    if (first == end || (StartAt(first) != Start::kWord && *first != '*')) {
+    if (first == end) {
+        return std::nullopt;
+    }
+    const Start start = StartAt(first);
+    if (start != Start::kWord && start != Start::kMacro && *first != '*') {
         return std::nullopt;
     }
     if (*first == '*') {

@@ -21,13 +21,13 @@ bool QuickCheckTokens(std::string_view text);
 
 /// The tokens that tell a command's kind.
 struct QuickTokens {
-    std::string_view first;      ///< a word or an asterisk
+    std::string_view first;      ///< a word, a macro's name or an asterisk
     std::string_view secondWord; ///< empty when the second token is no word or there is none
     bool areWhole = false;       ///< what stands behind the text cannot change or add one
 };
 
-/// The first tokens of a text that begins with a word or an asterisk and whose second token is
-/// surely well-formed.
+/// The first tokens of a text that begins with one of these and whose second token is surely
+/// well-formed.
 std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch);
 
 } // namespace recastor

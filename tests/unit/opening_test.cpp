@@ -41,6 +41,11 @@ TEST_F(OpeningOfCommand, IsToldByTheFirstTokens) {
              {", LIST\n", kOrdinaryCommand, "LIS"},
              {"t\xC3\xA4 a\n", kOrdinaryCommand, "T\xC3\xA4"},
              {"5 a\n", kOrdinaryCommand, "5"},
+             {"!tab1 a\n", kOrdinaryCommand, "!TA"},
+             {"!m\xC3\xA4 a\n", kOrdinaryCommand, "!M\xC3"},
+             {"!* a\n", kOrdinaryCommand, "!*"},
+             {"!12a\n", kOrdinaryCommand, "!12"},
+             {"begin !data\n", kOrdinaryCommand, "BEG"},
          }) {
         SCOPED_TRACE(row.text);
         const Opening opening = ReadOpening(row.text, false);

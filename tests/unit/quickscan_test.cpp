@@ -80,7 +80,7 @@ TEST_F(QuickScan, SoundTokensNeedNoFullCheck) {
     for (const std::string& text :
          {""s, " \t\r\n"s, "COMPUTE x = a**2 + 3.5/b.\n"s, "a<>b~=c|d {[1;2]} ?%:_\n"s,
           "TITLE 'a' \"it's\"\n 'b'"s, "1 .5 5. 007"s, "@a #b $c d.e_f\n"s, "a. b ."s,
-          std::string(300, '9')}) {
+          "!macro !1a !1e !* ! !b.5"s, std::string(300, '9')}) {
         SCOPED_TRACE(text);
         EXPECT_TRUE(QuickCheckTokens(text));
         EXPECT_NO_THROW(CheckTokens(text.c_str(), false));
@@ -90,7 +90,7 @@ TEST_F(QuickScan, SoundTokensNeedNoFullCheck) {
 TEST_F(QuickScan, WhatMayBeFaultyNeedsTheFullCheck) {
     for (const std::string& text :
          {"1e5"s, "1E"s, "0x1A"s, std::string(301, '9'), "'a"s, "'a\nb'"s, "'a''b'"s, "'a'+'b'"s,
-          "'a' + 'b'"s, "/* a */"s, "a &/ b"s, "!macro"s, "a ` b"s, "\x01"s, "\xC3\xA4"s,
+          "'a' + 'b'"s, "/* a */"s, "a &/ b"s, "!m\xC3\xA4"s, "a ` b"s, "\x01"s, "\xC3\xA4"s,
           "a\xC3\xA4"s, "'\xC3\xA4'"s, "a\0b"s}) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(QuickCheckTokens(text));
@@ -106,12 +106,22 @@ TEST_F(QuickScan, FirstTokensAreWords) {
 
 TEST_F(QuickScan, SecondTokenIsGivenOnlyAsAWord) {
     for (const std::string& text :
-         {"LIST\n"s, "LIST .\n"s, "LIST 5"s, "LIST 'a'\n"s, "LIST=a\n"s}) {
+         {"LIST\n"s, "LIST .\n"s, "LIST 5"s, "LIST 'a'\n"s, "LIST=a\n"s, "LIST !m\n"s}) {
         SCOPED_TRACE(text);
         const auto tokens = QuickFirstTokens(text, false);
         ASSERT_TRUE(tokens);
         EXPECT_EQ(tokens->first, "LIST");
         EXPECT_EQ(tokens->secondWord, "");
+    }
+}
+
+TEST_F(QuickScan, FirstTokenMayBeAMacroName) {
+    for (const std::string& name : {"!tab1.5"s, "!12"s, "!*"s, "!"s}) {
+        SCOPED_TRACE(name);
+        const auto tokens = QuickFirstTokens(name + " vars=a\n", false);
+        ASSERT_TRUE(tokens);
+        EXPECT_EQ(tokens->first, name);
+        EXPECT_EQ(tokens->secondWord, "vars");
     }
 }
 
@@ -130,9 +140,9 @@ TEST_F(QuickScan, BatchMarkIsNoToken) {
 
 TEST_F(QuickScan, OtherOpeningsAreLeftToTheTokens) {
     for (const std::string& text :
-         {""s, " "s, "\nLIST"s, "5 a"s, "'a' b"s, ", LIST"s, "!m a"s, "LIST , a"s, "LIST 1e"s,
-          "LIST 'a\n"s, "LIST !m"s, "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s, "\xEF\xBB\xBFLIST a"s,
-          "LIST `"s}) {
+         {""s, " "s, "\nLIST"s, "5 a"s, "'a' b"s, ", LIST"s, "LIST , a"s, "LIST 1e"s, "LIST 'a\n"s,
+          "!m\xC3\xA4 a"s, "LIST !m\xC3\xA4"s, "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s,
+          "\xEF\xBB\xBFLIST a"s, "LIST `"s}) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(QuickFirstTokens(text, false));
     }
