@@ -130,6 +130,10 @@ const TbTrParseNode* ArgumentLabel(const TbTrParseNode& argument) {
     return argument.GetChild(2);
 }
 
+bool NamesVariables(const TbTrParseNode* arguments) {
+    return arguments != nullptr && ArgumentVariable(*arguments->GetChild(0)) != nullptr;
+}
+
 const TbTrParseNode* FindArgument(const TbTrParseNode* arguments, const std::string& name) {
     return arguments != nullptr ? FindInNameList(*arguments, name) : nullptr;
 }

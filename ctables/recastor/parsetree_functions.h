@@ -33,6 +33,10 @@ const TbTrParseNode* ArgumentVariable(const TbTrParseNode& argument);
 const TbTrParseNode* ArgumentFormat(const TbTrParseNode& argument);
 const TbTrParseNode* ArgumentLabel(const TbTrParseNode& argument);
 
+/// Whether the arguments are variables; else they are one display specification, for whatever the
+/// function applies to, or none at all (null).
+bool NamesVariables(const TbTrParseNode* arguments);
+
 /// The argument whose variable has the (upper-cased) name; null when there is none.
 const TbTrParseNode* FindArgument(const TbTrParseNode* arguments, const std::string& name);
 

@@ -81,11 +81,6 @@ struct Match {
     const TbTrParseNode* argument = nullptr;
 };
 
-/// Arguments without variables are one display specification, for whatever the function applies to.
-bool NamesVariables(const TbTrParseNode* arguments) {
-    return arguments != nullptr && ArgumentVariable(*arguments->GetChild(0)) != nullptr;
-}
-
 /// Name and kind must hold for the same variable of the term.
 Match MatchTerm(const TbTrParseNode* arguments, char kind, const Term& term) {
     if (!NamesVariables(arguments)) {

@@ -3,6 +3,7 @@
 #include "ctables/recastor/expandeddimensions.h"
 #include "ctables/recastor/outputsequence.h"
 #include "ctables/recastor/parsetree.h"
+#include "ctables/recastor/parsetree_functions.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/parsetree_totals.h"
 #include "platform/zelkbase/zelkassert.h"
@@ -143,6 +144,18 @@ void AppendOnNewLine(OutputSequence sequence, OutputSequence& output) {
     }
 }
 
+/// Whether any function of the table is given for named variables.
+bool DoFunctionsNameVariables(const TbTrParseNode& table) {
+    const TbTrParseNode* const statistics =
+        ParseTree::FindSubcommand(table, TB_STATISTICS, false);
+    for (unsigned i = 0; statistics != nullptr && i < statistics->GetChildCount(); ++i) {
+        if (NamesVariables(FunctionArguments(*statistics->GetChild(i)))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Whether a function is named for the variable or for the total that it has.
 bool HasStatFunction(const TbTrParseNode& variable, int type, const TbTrParseNode& table,
                      const TotalsMap& totals) {
@@ -155,15 +168,16 @@ bool HasStatFunction(const TbTrParseNode& variable, int type, const TbTrParseNod
            ParseTree::GetStatFunction(table, TokenOf(*total->second).AsString(false)) != nullptr;
 }
 
+/// `named`: some function names variables, so that the variable's name is worth looking up.
 bool ChoosesDimension(const TbTrParseNode& variable, const TbTrParseNode& table,
-                      const TotalsMap& totals) {
+                      const TotalsMap& totals, bool named) {
     const int nodeType = variable.GetNodeType();
     if (nodeType != SP_VARNAME) {
         ZELK_ASSERT(nodeType == TB_STATISTICS || nodeType == TB_LABELS);
         return false;
     }
     const int type = DeclaredType(variable, table);
-    return type == TB_OBSERVATION || HasStatFunction(variable, type, table, totals);
+    return type == TB_OBSERVATION || (named && HasStatFunction(variable, type, table, totals));
 }
 
 } // namespace
@@ -210,6 +224,7 @@ int ParseTree::DetermineStatsDimension(const TbTrParseNode& table, const TotalsM
     ZELK_ASSERT(table.GetNodeType() == TB_TABLE);
     const auto count = static_cast<int>(table.GetChildCount());
     ZELK_ASSERT(0 < count && count <= 3);
+    const bool named = DoFunctionsNameVariables(table);
     int firstPresent = 0;
     for (int dimension = 1; dimension <= count; ++dimension) {
         const TbTrParseNode* const expression = table.GetChild(SlotOf(dimension));
@@ -219,7 +234,7 @@ int ParseTree::DetermineStatsDimension(const TbTrParseNode& table, const TotalsM
         firstPresent = firstPresent == 0 ? dimension : firstPresent;
         for (const TbTrParseNode* variable = GetNextVariable(*expression, nullptr);
              variable != nullptr; variable = GetNextVariable(*expression, variable)) {
-            if (ChoosesDimension(*variable, table, totals)) {
+            if (ChoosesDimension(*variable, table, totals, named)) {
                 return dimension;
             }
         }

@@ -116,7 +116,8 @@ TEST(StatsDimension, TableIsChecked) {
                  HasSubstr("0 < count && count <= 3"));
     EXPECT_DEATH(ParseTree::DetermineStatsDimension(*TreeFromDump("(TABLE a b c d)"), totals),
                  HasSubstr("0 < count && count <= 3"));
-    EXPECT_DEATH(ParseTree::DetermineStatsDimension(*TreeFromDump("(TABLE (LIST))"), totals),
+    const auto group = TreeFromDump("(LIST (TABLE (LIST)))");
+    EXPECT_DEATH(ParseTree::DetermineStatsDimension(*group->GetChild(0), totals),
                  HasSubstr("nodeType == TB_STATISTICS || nodeType == TB_LABELS"));
 }
 
