@@ -1,7 +1,7 @@
 #include "ctables/recastor/outputfile.h"
 
-#include "ctables/recastor/neighbours.h"
 #include "ctables/recastor/printcommand.h"
+#include "platform/zelkbase/neighbours.h"
 
 #include <fcntl.h>
 #include <string_view>

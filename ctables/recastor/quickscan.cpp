@@ -1,7 +1,7 @@
 #include "ctables/recastor/quickscan.h"
 
 #include "ctables/recastor/lexicalchars.h"
-#include "ctables/recastor/neighbours.h"
+#include "platform/zelkbase/neighbours.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #include "platform/zelkwigr/gpltext.h"
 
-#include <algorithm>
+#include "platform/zelkbase/neighbours.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,16 +11,21 @@ namespace recastor {
 
 namespace {
 
+/// Appends the text with a backslash before every character that a string cannot hold as it is.
 void AppendEscaped(std::string& text, std::string_view plain) {
-    const auto isEscaped = [](char c) { return c == '"' || c == '\\'; };
-    const auto* first = plain.begin();
-    for (const auto* next = std::find_if(first, plain.end(), isEscaped); next != plain.end();
-         next = std::find_if(next + 1, plain.end(), isEscaped)) {
-        text.append(first, next);
-        text += '\\';
-        first = next;
+    const bool mayHoldOne = !plain.empty() && IsAnywhere(plain, [](Neighbours c, Neighbours next) {
+        return (next == '"') | (next == '\\') | (c == '"') | (c == '\\');
+    });
+    if (!mayHoldOne) { // as nearly all
+        text += plain;
+        return;
     }
-    text.append(first, plain.end());
+    for (const char c : plain) {
+        if (c == '"' || c == '\\') {
+            text += '\\';
+        }
+        text += c;
+    }
 }
 
 } // namespace

@@ -82,6 +82,19 @@ TEST_F(Output, LinesAreTheSameWhereverTheTextIsCut) {
     }
 }
 
+TEST_F(Output, LineOfWhiteSpaceIsFoundWhereverItStands) {
+    const std::string ends = "first line\nlast line\n";
+    for (std::size_t length = 1; length <= 40; ++length) {
+        const std::string filled(length, 'x');
+        for (const std::string& blank : {"\n"s, " \n"s, "\t\r\n"s}) {
+            SCOPED_TRACE(length);
+            EXPECT_EQ(Written({filled + '\n' + blank + ends}), filled + '\n' + ends);
+            EXPECT_EQ(Written({blank + filled + '\n' + ends}), filled + '\n' + ends);
+            EXPECT_EQ(Written({ends + filled + " \n" + blank}), ends + filled + " \n");
+        }
+    }
+}
+
 TEST_F(Output, SingleCharactersAreGatheredToo) {
     OutputFile output;
     ASSERT_TRUE(Open(output, m_path.string()));

@@ -1,0 +1,47 @@
+#include "platform/zelkbase/neighbours.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace recastor {
+
+namespace {
+
+bool HasPair(const std::string& text, char first, char second) {
+    return IsAnywhere(
+        text, [=](Neighbours c, Neighbours next) { return (c == first) & (next == second); });
+}
+
+TEST(NeighboursOfAText, ArePairedWhereverTheyStand) {
+    for (std::size_t size = 2; size <= 50; ++size) {
+        for (std::size_t place = 0; place + 1 < size; ++place) {
+            SCOPED_TRACE(std::to_string(size) + '@' + std::to_string(place));
+            std::string text(size, '.');
+            EXPECT_FALSE(HasPair(text, 'a', 'b'));
+            text.replace(place, 2, "ab");
+            EXPECT_TRUE(HasPair(text, 'a', 'b'));
+            EXPECT_FALSE(HasPair(text, 'b', 'a'));
+        }
+    }
+}
+
+TEST(NeighboursOfAText, LastOneOnlyStandsBehind) {
+    const auto isA = [](Neighbours c, Neighbours /*next*/) { return c == 'a'; };
+    for (std::size_t size = 1; size <= 50; ++size) {
+        SCOPED_TRACE(size);
+        EXPECT_FALSE(IsAnywhere(std::string(size - 1, '.') + 'a', isA));
+        EXPECT_TRUE(IsAnywhere(std::string(size, 'a') + '.', isA));
+    }
+}
+
+TEST(NeighboursOfAText, BytesBeyondAsciiAreNegative) {
+    const auto isNegative = [](Neighbours c, Neighbours /*next*/) { return c < 0; };
+    EXPECT_TRUE(IsAnywhere("\x80.", isNegative));
+    EXPECT_TRUE(IsAnywhere("\xFF.", isNegative));
+    EXPECT_FALSE(IsAnywhere("\x7F.", isNegative));
+}
+
+} // namespace
+
+} // namespace recastor
