@@ -20,32 +20,32 @@ ZELKTokenVector::TokenVector& ZELKTokenVector::TokenVector::operator=(const Toke
 ZELKTokenVector::TokenVector::~TokenVector() = default;
 
 void ZELKTokenVector::TokenVector::AppendCopies(const TokenVector& other) {
-    m_tokens.reserve(m_tokens.size() + other.m_tokens.size());
-    for (const auto& token : other.m_tokens) {
-        Append(std::unique_ptr<ZELKToken>(token->Dup()));
+    m_entries.reserve(m_entries.size() + other.m_entries.size());
+    for (const Entry& entry : other.m_entries) {
+        Append(std::unique_ptr<ZELKToken>(entry.token->Dup()));
     }
 }
 
 void ZELKTokenVector::TokenVector::ClearTokensAfterIndex(int index) {
     if (index < 0) {
-        SetAside(m_tokens.size());
+        SetAside(m_entries.size());
         return;
     }
-    while (m_tokens.size() > static_cast<std::size_t>(index) + 1) {
-        m_tokens.pop_back();
+    while (m_entries.size() > static_cast<std::size_t>(index) + 1) {
+        m_entries.pop_back();
     }
 }
 
 void ZELKTokenVector::TokenVector::ClearTokensBeforeIndex(int index) {
     if (index > 0) {
-        SetAside(std::min(static_cast<std::size_t>(index), m_tokens.size()));
+        SetAside(std::min(static_cast<std::size_t>(index), m_entries.size()));
     }
 }
 
 void ZELKTokenVector::TokenVector::SetAside(std::size_t count) {
-    const auto end = m_tokens.begin() + static_cast<std::ptrdiff_t>(count);
-    std::move(m_tokens.begin(), end, std::back_inserter(m_setAside));
-    m_tokens.erase(m_tokens.begin(), end);
+    const auto end = m_entries.begin() + static_cast<std::ptrdiff_t>(count);
+    std::move(m_entries.begin(), end, std::back_inserter(m_setAside));
+    m_entries.erase(m_entries.begin(), end);
 }
 
 } // namespace recastor

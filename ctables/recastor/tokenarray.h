@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace recastor {
@@ -20,15 +21,23 @@ public:
     TokenVector& operator=(const TokenVector& other);
     ~TokenVector();
 
-    std::size_t size() const { return m_tokens.size(); }
-    /// Null for a token that was taken.
-    const ZELKToken* At(std::size_t index) const { return m_tokens[index].get(); }
+    std::size_t size() const { return m_entries.size(); }
+    /// Without a token where it was taken.
+    Known At(std::size_t index) const {
+        const Entry& entry = m_entries[index];
+        return {entry.token.get(), entry.type, entry.code};
+    }
     /// Leaves an empty place.
-    std::unique_ptr<ZELKToken> Take(std::size_t index) { return std::move(m_tokens[index]); }
-    void Append(std::unique_ptr<ZELKToken> token) { m_tokens.push_back(std::move(token)); }
+    std::unique_ptr<ZELKToken> Take(std::size_t index) { return std::move(m_entries[index].token); }
+    template <class Token>
+    void Append(std::unique_ptr<Token> token) {
+        const ZELKToken::TokenType type = token->Type();
+        const ZELKToken::OperatorCode code = token->OpCode();
+        m_entries.push_back({std::move(token), type, code});
+    }
 
     /// Makes room for `count` tokens.
-    void Reserve(std::size_t count) { m_tokens.reserve(count); }
+    void Reserve(std::size_t count) { m_entries.reserve(count); }
 
     /// Deletes the tokens at positions above `index`, the last one first; with -1 it empties the
     /// array and deletes none.
@@ -37,11 +46,17 @@ public:
     void ClearTokensBeforeIndex(int index);
 
 private:
+    struct Entry {
+        std::unique_ptr<ZELKToken> token;
+        ZELKToken::TokenType type;
+        ZELKToken::OperatorCode code;
+    };
+
     void AppendCopies(const TokenVector& other);
     void SetAside(std::size_t count);
 
-    std::vector<std::unique_ptr<ZELKToken>> m_tokens;
-    std::vector<std::unique_ptr<ZELKToken>> m_setAside;
+    std::vector<Entry> m_entries;
+    std::vector<Entry> m_setAside;
 };
 
 } // namespace recastor

@@ -20,17 +20,22 @@ public:
 
     void MakeCurrent(std::size_t index) {
         m_curr = index;
-        SetCurrent(index < Count() ? &m_tokenVec[static_cast<int>(index)] : nullptr);
+        if (index >= Count()) {
+            m_current = kNone;
+            return;
+        }
+        m_current = m_tokenVec.KnownAt(static_cast<int>(index));
+        ZELK_ASSERT(m_current.token != nullptr);
     }
     /// The current token; null at the end.
-    const ZELKToken* Current() const { return m_current; }
-    ZELKToken::TokenType Type() const { return m_type; }
-    ZELKToken::OperatorCode Operator() const { return m_operator; }
+    const ZELKToken* Current() const { return m_current.token; }
+    ZELKToken::TokenType Type() const { return m_current.type; }
+    ZELKToken::OperatorCode Operator() const { return m_current.code; }
     ZELKToken* TakeCurrent() {
-        if (m_current == nullptr) {
+        if (m_current.token == nullptr) {
             return nullptr;
         }
-        SetCurrent(nullptr);
+        m_current = kNone;
         return m_tokenVec.TakeToken(static_cast<int>(m_curr)).release();
     }
 
@@ -39,16 +44,10 @@ public:
     ZELKTokenVector m_tokenVec;
 
 private:
-    void SetCurrent(const ZELKToken* token) {
-        m_current = token;
-        m_type = token != nullptr ? token->Type() : TokenSequenceBase::kAtEnd;
-        m_operator = token != nullptr ? token->OpCode() : TokenSequenceBase::kNotOperator;
-    }
+    static constexpr ZELKTokenVector::Known kNone = {nullptr, TokenSequenceBase::kAtEnd,
+                                                     TokenSequenceBase::kNotOperator};
 
-    const ZELKToken* m_current = nullptr;
-    // Of the current token: readers ask for them several times.
-    ZELKToken::TokenType m_type = TokenSequenceBase::kAtEnd;
-    ZELKToken::OperatorCode m_operator = TokenSequenceBase::kNotOperator;
+    ZELKTokenVector::Known m_current = kNone;
 };
 
 namespace {

@@ -95,9 +95,14 @@ int ZELKTokenVector::Count() const {
 
 const ZELKToken& ZELKTokenVector::operator[](int index) const {
     ZELK_ASSERT_AS(0 <= index && index < Count(), "0 <= index && index < (int)m_TokVec.size()");
-    const ZELKToken* const token = m_TokVec->At(static_cast<std::size_t>(index));
+    const ZELKToken* const token = m_TokVec->At(static_cast<std::size_t>(index)).token;
     ZELK_ASSERT(token != nullptr);
     return *token;
+}
+
+ZELKTokenVector::Known ZELKTokenVector::KnownAt(int index) const {
+    ZELK_ASSERT(0 <= index && index < Count());
+    return m_TokVec->At(static_cast<std::size_t>(index));
 }
 
 std::unique_ptr<ZELKToken> ZELKTokenVector::TakeToken(int index) {

@@ -31,6 +31,14 @@ public:
     int Count() const;
     /// The token at `index` (0-based), which must be below Count(). It belongs to the vector.
     const ZELKToken& operator[](int index) const;
+    /// The same with what readers ask of every token: the answers are kept beside it, since tokens
+    /// of all kinds follow each other, so that a processor cannot guess whom it will ask.
+    struct Known {
+        const ZELKToken* token; ///< null when it was given up
+        ZELKToken::TokenType type;
+        ZELKToken::OperatorCode code;
+    };
+    Known KnownAt(int index) const;
     /// Gives up the token at `index`, which must be below Count() and is not to be read again.
     std::unique_ptr<ZELKToken> TakeToken(int index);
 
