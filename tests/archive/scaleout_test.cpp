@@ -96,6 +96,34 @@ TEST_F(ScaleOut, ShareThatFailsForGoodIsTriedThreeTimesAndTheOthersAreJoined) {
     EXPECT_TRUE(run.at("interrupted").get<bool>());
 }
 
+TEST_F(ScaleOut, ShareThatFailsIsMissedThoughItOnceWentWell) {
+    InstallProgram("");
+    RunRecipe("with-parallel", {"3", "source", "sharded", "report"});
+    Put("later.syn", kTable);
+    InstallProgram("case \"$*\" in *' --shard 2/3 '*) exit 2;; esac");
+    const RunResult result = RunRecipe("with-parallel", {"3", "source", "sharded", "report"});
+    EXPECT_EQ(result.status, 1) << result.errors;
+    EXPECT_THAT(result.errors, HasSubstr("recastor-tree: shard 2/3 is missing\n"));
+    EXPECT_EQ(ReadJson(m_folder.Path() / "report/report.json").at("run").at("present"),
+              nlohmann::json({1, 3}));
+}
+
+TEST_F(ScaleOut, InterruptedShareIsTriedAgain) {
+    // The second share's first try says that it was interrupted, as one that is told to end does.
+    InstallProgram("case \"$*\" in *' --shard 2/3 '*)\n"
+                   "  if [ ! -e interrupted ]; then\n"
+                   "    : > interrupted\n"
+                   "    mkdir -p report/shares/2\n"
+                   "    echo '{\"interrupted\":true}' > report/shares/2/run.json\n"
+                   "    exit 1\n"
+                   "  fi;;\n"
+                   "esac");
+    const RunResult result = RunRecipe("with-parallel", {"3", "source", "sharded", "report"});
+    EXPECT_EQ(result.status, 1) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("200 files: 171 converted, 29 incomplete, 0 failed"));
+    ExpectLikeASingleRun(m_folder.Path() / "sharded", m_folder.Path() / "report");
+}
+
 TEST_F(ScaleOut, TasksOfAJobArrayMakeWhatASingleRunMakes) {
     InstallProgram("");
     for (const std::string task : {"2", "1", "3"}) {
@@ -104,6 +132,10 @@ TEST_F(ScaleOut, TasksOfAJobArrayMakeWhatASingleRunMakes) {
                       {"SLURM_ARRAY_TASK_ID=" + task, "SLURM_ARRAY_TASK_COUNT=3"});
         EXPECT_EQ(result.status, 0) << result.errors;
     }
+    // A task that is submitted again alone is told how many there are.
+    const RunResult again = RunRecipe("slurm-array", {"source", "sharded", "report", "3"},
+                                      {"SLURM_ARRAY_TASK_ID=2", "SLURM_ARRAY_TASK_COUNT=1"});
+    EXPECT_EQ(again.status, 0) << again.errors;
     const std::string shares = m_folder.Path() / "report/shares/";
     RunWith({"--merge", "--report", "report", shares + "1", shares + "2", shares + "3"});
     ExpectLikeASingleRun(m_folder.Path() / "sharded", m_folder.Path() / "report");
