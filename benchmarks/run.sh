@@ -7,7 +7,7 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-scripts/install-packages build benchmark
+scripts/install-packages build report benchmark
 {
     cmake --preset benchmarks
     cmake --build --preset benchmarks -- --quiet
