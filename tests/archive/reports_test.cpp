@@ -3,6 +3,7 @@
 #include "archive/report/filepage.h"
 #include "tests/archive/archivetree.h"
 
+#include <algorithm>
 #include <valijson/adapters/nlohmann_json_adapter.hpp>
 #include <valijson/schema.hpp>
 #include <valijson/schema_parser.hpp>
@@ -198,12 +199,21 @@ TEST_F(Reports, PageThatIsMissingIsMadeAgain) {
 }
 
 TEST_F(Reports, ReportsOfTheSameManifestAreTheSame) {
-    const std::string csv = ReadFile(m_report / "report.csv");
+    // A file that failed is tried again, which takes its own time.
+    const auto rows = [&] {
+        auto all = ReadCsv(ReadFile(m_report / "report.csv"));
+        const auto& names = all.front();
+        const auto column = std::find(names.begin(), names.end(), "milliseconds") - names.begin();
+        for (auto& row : all) {
+            row.erase(row.begin() + column);
+        }
+        return all;
+    };
+    const auto before = rows();
+    const auto report = Comparable(Report());
     EXPECT_EQ(Run().status, 1);
-    const auto rows = ReadCsv(csv);
-    const auto again = ReadCsv(ReadFile(m_report / "report.csv"));
-    ASSERT_EQ(rows.size(), again.size());
-    EXPECT_EQ(rows[1], again[1]);
+    EXPECT_EQ(rows(), before);
+    EXPECT_EQ(Comparable(Report()), report);
     EXPECT_EQ(Violations(Report(), StrictSchema()), "");
 }
 

@@ -60,14 +60,26 @@ TEST_F(Pool, FileThatTakesForeverFailsWhenItsTimeIsOver) {
     // To open a pipe that nobody writes to never ends.
     ASSERT_EQ(::mkfifo((fs::path(m_options.source) / "pipe").c_str(), 0600), 0);
     Put("a", "FREQ x.\n");
-    Put("b", "FREQ x.\n");
-    m_options.timeLimit = 1;
-    const auto results = Convert({"a", "pipe", "b"});
-    EXPECT_EQ(results.size(), 3U);
-    EXPECT_EQ(results.at(0).problem, "");
-    EXPECT_EQ(results.at(1).problem, "it took longer than 1 s");
-    EXPECT_EQ(results.at(1).counts.filesFailed, 1U);
-    EXPECT_EQ(results.at(2).problem, "");
+    m_options.timeLimit = 60;
+    WorkerPool::Clock::time_point now{};
+    std::vector<FileResult> results;
+    WorkerPool pool(
+        m_options, [&](std::uint64_t, FileResult result) { results.push_back(std::move(result)); },
+        [&] { return now; });
+    const auto convert = [&](const std::string& name, std::chrono::seconds each) {
+        pool.Give({0, {name, "", ""}});
+        for (int milliseconds = each.count() == 0 ? 1000 : 0; !pool.IsIdle(); now += each) {
+            pool.Wait(milliseconds);
+        }
+    };
+    convert("a", std::chrono::seconds(0));
+    convert("pipe", std::chrono::seconds(1));
+    convert("a", std::chrono::seconds(0));
+    ASSERT_EQ(results.size(), 3U);
+    EXPECT_EQ(results[0].problem, "");
+    EXPECT_EQ(results[1].problem, "it took longer than 60 s");
+    EXPECT_EQ(results[1].counts.filesFailed, 1U);
+    EXPECT_EQ(results[2].problem, "");
 }
 
 TEST_F(Pool, FileThatVanishedIsToldOf) {
