@@ -34,8 +34,8 @@ struct CommandOutcome {
     std::string newText; ///< the same of its new form; empty when there is none
     std::vector<std::string> warnings;
     std::optional<ConversionError> error; ///< why there is no new form, or what ended the file
-    /// Lines of a command of another kind that begin with TABLES or IGRAPH: possibly commands that
-    /// it swallowed.
+    /// Lines behind the command's first that begin with TABLES or IGRAPH: possibly commands that it
+    /// swallowed.
     std::vector<std::int64_t> missedLines;
 
     // Pictures, each a JSON text; empty when there is none.

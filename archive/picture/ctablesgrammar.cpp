@@ -60,18 +60,19 @@ bool IsFunction(std::string_view word, char kind) {
            (word.starts_with('U') && IsFunctionFor(word.substr(1), kind));
 }
 
-/// `F8.2`, `DOLLAR10`: letters, a width, perhaps decimals.
+/// `F8.2`, `DOLLAR10`, `F8.`: letters, a width, perhaps decimals.
 bool IsFormat(std::string_view word) {
     const std::size_t width = word.find_first_of("0123456789");
     const std::size_t point = word.find('.');
-    const auto isNumber = [](std::string_view digits) {
-        return !digits.empty() && std::all_of(digits.begin(), digits.end(), IsDigit);
+    const auto areDigits = [](std::string_view digits) {
+        return std::all_of(digits.begin(), digits.end(), IsDigit);
     };
     const auto isLetter = [](char c) { return c >= 'A' && c <= 'Z'; };
     return width != 0 && width != std::string_view::npos &&
            std::all_of(word.begin(), word.begin() + static_cast<std::ptrdiff_t>(width), isLetter) &&
-           isNumber(word.substr(width, point == std::string_view::npos ? point : point - width)) &&
-           (point == std::string_view::npos || isNumber(word.substr(point + 1)));
+           width < point &&
+           areDigits(word.substr(width, point == std::string_view::npos ? point : point - width)) &&
+           (point == std::string_view::npos || areDigits(word.substr(point + 1)));
 }
 
 /// The commands, read rule by rule; a rule fails by CtablesReader::Fail().

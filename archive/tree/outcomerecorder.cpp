@@ -56,9 +56,9 @@ void OutcomeRecorder::OnCommand(ReportedKind kind, std::int64_t firstLine, std::
     m_current.kind = kind;
     m_current.firstLine = firstLine;
     m_current.lastLine = LastLine(text, firstLine);
+    m_current.missedLines = SwallowedLines(text, firstLine);
     if (!IsConvertible(kind)) {
         ++m_outcome.copied;
-        m_current.missedLines = SwallowedLines(text, firstLine);
     }
     m_recorded = IsConvertible(kind) || !m_current.missedLines.empty();
     if (m_recorded) {

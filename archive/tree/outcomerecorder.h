@@ -42,7 +42,7 @@ private:
 };
 
 /// The lines of `text` behind its first that begin with the word TABLES or IGRAPH, in any case and
-/// behind blanks: in a command of another kind they may be commands that it swallowed. `firstLine`
+/// behind blanks: they may be commands that this one swallowed. `firstLine`
 /// is the number of the text's first line.
 std::vector<std::int64_t> SwallowedLines(std::string_view text, std::int64_t firstLine);
 

@@ -82,6 +82,14 @@ TEST_F(Recorder, CopiedCommandsAreCountedAndThoseThatSwallowAreKept) {
     EXPECT_EQ(outcome.commands[0].missedLines, (std::vector<std::int64_t>{3, 4}));
 }
 
+TEST_F(Recorder, ConvertedCommandsMaySwallowToo) {
+    const FileOutcome outcome =
+        Record("TABLES /TABLE a BY b. /* note */\nTABLES /TABLE c.\nTABLES /TABLE d.\n");
+    ASSERT_EQ(outcome.commands.size(), 2U);
+    EXPECT_EQ(outcome.commands[0].missedLines, std::vector<std::int64_t>{2});
+    EXPECT_EQ(outcome.commands[1].missedLines, std::vector<std::int64_t>());
+}
+
 TEST_F(Recorder, LastLineOfABatchCommandIsThatOfItsText) {
     const FileOutcome outcome = Record("TABLES /TABLE sex\n BY region.\n \nFREQ x\n", true);
     ASSERT_EQ(outcome.commands.size(), 1U);

@@ -29,6 +29,8 @@ TEST(SkeletonOfCtables, NestingIsMultipliedOutOverStacking) {
 TEST(SkeletonOfCtables, StatisticsHaveTheirLabelsFormatsAndTotals) {
     EXPECT_EQ(Dimensions("x[S][MEAN,'It''s',F8.2,PTILE 90,TOTALS[COUNT,\"n\"]]>a[C]"),
               "x[S]{MEAN 'It's' F8.2,PTILE 90 | COUNT 'n'}>a[C]");
+    EXPECT_EQ(Dimensions("x[S][PTILE 25.,MEAN,F8.,PTILE 75.]"),
+              "x[S]{PTILE 25.,MEAN F8.,PTILE 75.}");
 }
 
 TEST(SkeletonOfCtables, TotalsStandOnTheVariablesThatShareThem) {
