@@ -33,8 +33,8 @@ const TbTrParseNode* ArgumentVariable(const TbTrParseNode& argument);
 const TbTrParseNode* ArgumentFormat(const TbTrParseNode& argument);
 const TbTrParseNode* ArgumentLabel(const TbTrParseNode& argument);
 
-/// Whether the arguments are variables; else they are one display specification, for whatever the
-/// function applies to, or none at all (null).
+/// Whether the arguments name variables; else there are none at all (null), or a label and a format
+/// alone, for whatever the function applies to.
 bool NamesVariables(const TbTrParseNode* arguments);
 
 /// The argument whose variable has the (upper-cased) name; null when there is none.

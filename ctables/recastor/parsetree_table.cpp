@@ -146,8 +146,7 @@ void AppendOnNewLine(OutputSequence sequence, OutputSequence& output) {
 
 /// Whether any function of the table is given for named variables.
 bool DoFunctionsNameVariables(const TbTrParseNode& table) {
-    const TbTrParseNode* const statistics =
-        ParseTree::FindSubcommand(table, TB_STATISTICS, false);
+    const TbTrParseNode* const statistics = ParseTree::FindSubcommand(table, TB_STATISTICS, false);
     for (unsigned i = 0; statistics != nullptr && i < statistics->GetChildCount(); ++i) {
         if (NamesVariables(FunctionArguments(*statistics->GetChild(i)))) {
             return true;

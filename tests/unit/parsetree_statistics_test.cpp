@@ -168,7 +168,7 @@ TEST(Statistics, LabelStandsBeforeTheFormat) {
     });
 }
 
-TEST(Statistics, DisplaySpecificationHoldsForEveryTerm) {
+TEST(Statistics, LabelAndFormatAloneHoldForEveryTerm) {
     ExpectStatistics({{"a + b", "count('N')", "a[C][COUNT,'N']+b[C][COUNT,'N']"}});
 }
 

@@ -52,7 +52,7 @@ TEST(ParseBuilder, DroppedSubcommandTakesANullSlot) {
     EXPECT_EQ(DumpValue(common_tableGroup(Node(TB_TABLE), group)), "(LIST (TABLE) _)");
 }
 
-TEST(ParseBuilder, ArgumentWithoutDisplaySpecificationHasThreeSlots) {
+TEST(ParseBuilder, ArgumentHasThreeSlotsWhateverItSays) {
     EXPECT_EQ(DumpValue(statistics_statArgVarSpec(Name("a"), common_nothing())),
               "(STATFUNCARG a _ _)");
     EXPECT_EQ(DumpValue(statistics_statDisplaySpec(common_nothing(), common_nothing(),
