@@ -5,7 +5,7 @@ namespace recastor {
 namespace {
 
 /// Nothing is loaded from anywhere but the report's own folder. The chart library makes functions
-/// of the expressions in its specifications.
+/// of the expressions in its descriptions.
 constexpr std::string_view kPolicy =
     "default-src 'none'; script-src 'self' file: 'unsafe-inline' 'unsafe-eval'; "
     "style-src 'self' file: 'unsafe-inline'; img-src data:";

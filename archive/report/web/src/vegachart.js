@@ -1,4 +1,4 @@
-// From the sketch of a chart to a specification that the chart library draws.
+// From the sketch of a chart to a description that the chart library draws.
 import { madeUpBins, madeUpCases, madeUpCurve } from './madeupdata.js';
 
 /** Numbers on an axis would be those of made-up data. */
