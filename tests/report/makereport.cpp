@@ -1,5 +1,5 @@
 // Makes a report for the tests in a browser: makereport FOLDER INPUT... converts the inputs, of
-// which the first begins its conversions with a TABLES command, and
+// which the first begins its conversions with a TABLES command, and those of pageinputs.h, and
 // makes up files of which there are too many, and whose names are hostile.
 
 #include "archive/report/filepage.h"
@@ -8,6 +8,7 @@
 #include "archive/tree/outcomerecorder.h"
 #include "ctables/recastor/commandstream.h"
 #include "ctables/recastor/recastor.h"
+#include "tests/report/pageinputs.h"
 #include "tests/support/run.h"
 
 #include <filesystem>
@@ -21,10 +22,9 @@ namespace recastor {
 
 namespace {
 
-FileOutcome Converted(const fs::path& input) {
-    const std::string text = ReadFile(input);
+FileOutcome Converted(const std::string& path, const std::string& text) {
     FileOutcome outcome;
-    outcome.path = input.parent_path().filename() / input.filename();
+    outcome.path = path;
     outcome.sourceSize = text.size();
     outcome.encoding = "UTF-8";
     std::istringstream file(text);
@@ -94,7 +94,12 @@ int main(int argc, char** argv) {
     }
     std::vector<recastor::FileOutcome> files;
     for (int i = 2; i < argc; ++i) {
-        files.push_back(recastor::Converted(argv[i]));
+        const fs::path input = argv[i];
+        const fs::path path = input.parent_path().filename() / input.filename();
+        files.push_back(recastor::Converted(path, recastor::ReadFile(input)));
+    }
+    for (const auto& input : recastor::PageInputs()) {
+        files.push_back(recastor::Converted(input.path, input.text));
     }
     const auto hostile = recastor::HostileFiles(files.front());
     files.insert(files.end(), hostile.begin(), hostile.end());

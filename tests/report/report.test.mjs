@@ -9,7 +9,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 5;
+const FILES = MADE_UP + 6;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -104,6 +104,15 @@ test('pictures that differ are told, with the part', () => withReport(async (pag
   await openFile(page, 'pictures/disagree.syn');
   assert.equal(await page.locator('.mark').first().innerText(), 'Old and new differ: title');
 }));
+
+test('pictures that are too large to be compared are not called the same', () =>
+  withReport(async (page) => {
+    await openFile(page, 'pictures/toolarge.syn');
+    assert.deepEqual(await page.locator('.mark').allInnerTexts(),
+      ['Too large to be compared: rows']);
+    assert.equal(await page.getByText('This table is too large to be drawn.').count(), 2);
+    await screenshot(page, 'toolarge');
+  }));
 
 test('a command that cannot be converted says why', () => withReport(async (page) => {
   await openFile(page, 'examples/charts.syn');

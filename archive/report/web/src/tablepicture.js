@@ -131,27 +131,52 @@ export function tablePicture(picture, name) {
 
 const isEqual = (one, other) => JSON.stringify(one) === JSON.stringify(other);
 
-/** The parts in which two pictures differ, for a reader; empty when they agree. */
-export function differencesOf(one, other) {
-  const parts = (left, right, prefix) => Object.keys(left)
-    .filter((key) => key !== 'tables' && !isEqual(left[key], right[key]))
-    .map((key) => prefix + key.replace(/[A-Z]/g, (letter) => ` ${letter.toLowerCase()}`));
+/** `table 2: statistics side` for a member of the second of several tables. */
+function partName(key, i, tables) {
+  const name = key.replace(/[A-Z]/g, (letter) => ` ${letter.toLowerCase()}`);
+  return tables.length > 1 ? `table ${i + 1}: ${name}` : name;
+}
+
+const partNames = ({ tables }, isMeant) => tables.flatMap((table, i) =>
+  Object.keys(table).filter((key) => isMeant(key, i)).map((key) => partName(key, i, tables)));
+
+/**
+ * What a reader is told of two pictures: in which parts they differ, and which parts of tables
+ * cannot be compared because one of them is too large to be there.
+ */
+function compared(one, other) {
   if (one.tables.length !== other.tables.length) {
-    return ['number of tables'];
+    return { differences: ['number of tables'], uncompared: [] };
   }
-  return [...parts(one, other, ''), ...one.tables.flatMap((table, i) =>
-    parts(table, other.tables[i], one.tables.length > 1 ? `table ${i + 1}: ` : ''))];
+  const isTooLarge = (key, i) => ['rows', 'columns', 'layers'].includes(key) &&
+    (one.tables[i][key] === null || other.tables[i][key] === null);
+  const differs = (key, i) => !isTooLarge(key, i) &&
+    !isEqual(one.tables[i][key], other.tables[i][key]);
+  const ofCommand = Object.keys(one)
+    .filter((key) => key !== 'tables' && !isEqual(one[key], other[key]))
+    .map((key) => partName(key, 0, []));
+  return {
+    differences: [...ofCommand, ...partNames(one, differs)],
+    uncompared: partNames(one, isTooLarge),
+  };
+}
+
+function marks({ differences, uncompared }) {
+  if (differences.length + uncompared.length === 0) {
+    return element('p', { class: 'mark good' }, 'Old and new make the same table.');
+  }
+  const mark = (tone, text, parts) => parts.length === 0 ? null
+    : element('p', { class: `mark ${tone}` }, `${text}: ${parts.join(', ')}`);
+  return [mark('bad', 'Old and new differ', differences),
+    mark('plain', 'Too large to be compared', uncompared)];
 }
 
 /** Both pictures of a command side by side, with a mark that says whether they agree. */
 export function tablePictures(oldPicture, newPicture) {
-  const differences = differencesOf(oldPicture, newPicture);
-  const mark = differences.length === 0
-    ? element('p', { class: 'mark good' }, 'Old and new make the same table.')
-    : element('p', { class: 'mark bad' }, `Old and new differ: ${differences.join(', ')}`);
-  return element('div', { class: 'tables' }, mark, element('div', { class: 'pair' },
-    element('div', { class: 'panel' }, element('h3', {}, 'Table of the old command'),
-      tablePicture(oldPicture, 'Table of the old command')),
-    element('div', { class: 'panel' }, element('h3', {}, 'Table of the new command'),
-      tablePicture(newPicture, 'Table of the new command'))));
+  return element('div', { class: 'tables' }, marks(compared(oldPicture, newPicture)),
+    element('div', { class: 'pair' },
+      element('div', { class: 'panel' }, element('h3', {}, 'Table of the old command'),
+        tablePicture(oldPicture, 'Table of the old command')),
+      element('div', { class: 'panel' }, element('h3', {}, 'Table of the new command'),
+        tablePicture(newPicture, 'Table of the new command'))));
 }
