@@ -4,6 +4,15 @@ namespace recastor {
 
 namespace {
 
+/// `(b1 + b2 + b3)`
+std::string Stacked(const std::string& name, int count) {
+    std::string text;
+    for (int i = 1; i <= count; ++i) {
+        text += (i == 1 ? "(" : " + ") + name + std::to_string(i);
+    }
+    return text + ")";
+}
+
 /// Rows of 2048 terms, more than are kept of a dimension.
 std::string TooLargeToCompare() {
     std::string rows = "(a + b)";
@@ -13,11 +22,18 @@ std::string TooLargeToCompare() {
     return "TABLES /TABLE " + rows + " BY c.\n";
 }
 
+/// 200 rows of cells in 200 columns, all of them within one header.
+std::string TooLargeToDraw() {
+    constexpr int kMany = 200;
+    return "TABLES /TABLE a > " + Stacked("b", kMany) + " BY c > " + Stacked("d", kMany) + ".\n";
+}
+
 } // namespace
 
 std::vector<PageInput> PageInputs() {
     return {
         {"pictures/toolarge.syn", TooLargeToCompare()},
+        {"pictures/wide.syn", TooLargeToDraw()},
     };
 }
 

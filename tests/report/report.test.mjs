@@ -9,7 +9,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 6;
+const FILES = MADE_UP + 7;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -113,6 +113,21 @@ test('pictures that are too large to be compared are not called the same', () =>
     assert.equal(await page.getByText('This table is too large to be drawn.').count(), 2);
     await screenshot(page, 'toolarge');
   }));
+
+test('a wide table is cut, also inside its headers', () => withReport(async (page) => {
+  const most = 80;
+  await openFile(page, 'pictures/wide.syn');
+  assert.equal(await page.locator('.mark').innerText(), 'Old and new make the same table.');
+  const tables = await page.locator('table.skeleton').all();
+  assert.equal(tables.length, 2);
+  for (const table of tables) {
+    assert.equal(await table.locator('tbody tr').count(), most + 1);
+    assert.equal(await table.locator('tbody td').count(), (most + 1) ** 2);
+    assert.deepEqual(await table.locator('th.more').allInnerTexts(), Array(2).fill('and 120 more'));
+    assert.equal(await table.locator('tbody tr').last().locator('td').first().innerText(), '…');
+  }
+  await screenshot(page, 'wide');
+}));
 
 test('a command that cannot be converted says why', () => withReport(async (page) => {
   await openFile(page, 'examples/charts.syn');

@@ -2,7 +2,7 @@
 import { element } from './dom.js';
 import { depthOf, drawnHeaders, leavesOf } from './tableheaders.js';
 
-/** More rows or columns are not drawn. */
+/** More rows or columns are not drawn, but for one that tells of them in each header. */
 const MOST_DRAWN = 80;
 
 function sample({ statistic }) {
@@ -13,16 +13,20 @@ function sample({ statistic }) {
     ? '00' : '00.0';
 }
 
-function cut(headers) {
+/**
+ * The first of the headers, with as many innermost ones as there is room for; each list that was
+ * cut ends in a header that tells how many more it has.
+ */
+function cut(headers, room = MOST_DRAWN) {
   const kept = [];
-  let leaves = 0;
+  let left = room;
   for (const header of headers) {
-    leaves += leavesOf(header).length;
-    if (leaves > MOST_DRAWN && kept.length > 0) {
+    if (left <= 0) {
       kept.push({ text: `and ${headers.length - kept.length} more`, role: 'more', inside: [] });
       break;
     }
-    kept.push(header);
+    kept.push({ ...header, inside: cut(header.inside, left) });
+    left -= leavesOf(kept.at(-1)).length;
   }
   return kept;
 }
@@ -69,6 +73,11 @@ function layerLine(headers) {
 
 const EMPTY = { text: '', role: 'empty', inside: [] };
 
+function cellText(row, column) {
+  return row.role === 'more' || column.role === 'more' ? '…'
+    : sample(column) ?? sample(row) ?? '00';
+}
+
 function grid(table, name) {
   const [rows, columns] = [cut(drawnHeaders(table.rows)), cut(drawnHeaders(table.columns))];
   const columnDepth = Math.max(1, depthOf(columns));
@@ -80,7 +89,7 @@ function grid(table, name) {
   const rowLeaves = rows.length > 0 ? rows.flatMap(leavesOf) : [EMPTY];
   const front = rowHeaders(rows.length > 0 ? rows : [EMPTY], rowDepth);
   const body = rowLeaves.map((row, i) => element('tr', {}, front[i],
-    columnLeaves.map((column) => element('td', {}, sample(column) ?? sample(row) ?? '00'))));
+    columnLeaves.map((column) => element('td', {}, cellText(row, column)))));
   return element('table', { class: 'skeleton' },
     element('caption', {}, table.title.length > 0 ? table.title.join('\n')
       : element('span', { class: 'hidden' }, name)),
