@@ -28,12 +28,27 @@ std::string TooLargeToDraw() {
     return "TABLES /TABLE a > " + Stacked("b", kMany) + " BY c > " + Stacked("d", kMany) + ".\n";
 }
 
+/// One statistic for each shape of numbers.
+constexpr const char* kFormats = R"(TABLES
+  /OBSERVATION=income
+  /TABLE=region BY sex > income
+  /STATISTICS=MEAN(income (F8.0)) MEDIAN(income (dollar8.2)) MINIMUM(income (COMMA9.3)) STDDEV
+    VALIDN SUM(income (F40.999999999)).
+TABLES
+  /TABLE=sex BY region
+  /STATISTICS=COUNT((F6.1)) CPCT((PCT5.2) : sex) CPCT((PCT4) : region) CPCT((F5.2)).
+TABLES
+  /TABLE=sex BY region
+  /STATISTICS=COUNT CPCT.
+)";
+
 } // namespace
 
 std::vector<PageInput> PageInputs() {
     return {
         {"pictures/toolarge.syn", TooLargeToCompare()},
         {"pictures/wide.syn", TooLargeToDraw()},
+        {"pictures/formats.syn", kFormats},
     };
 }
 

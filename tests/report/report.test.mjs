@@ -9,7 +9,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 7;
+const FILES = MADE_UP + 8;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -127,6 +127,21 @@ test('a wide table is cut, also inside its headers', () => withReport(async (pag
     assert.equal(await table.locator('tbody tr').last().locator('td').first().innerText(), '…');
   }
   await screenshot(page, 'wide');
+}));
+
+test('cells show the shape of their numbers', () => withReport(async (page) => {
+  await openFile(page, 'pictures/formats.syn');
+  const shapes = [
+    ['00', '$00.00', '00.000', '00.0', '00', `00.${'0'.repeat(16)}`],
+    ['00.0', '00.00%', '00%', '00.00'],
+    ['00', '00.0%'],
+  ];
+  const tables = await page.locator('table.skeleton').all();
+  assert.equal(tables.length, 2 * shapes.length);
+  for (const [i, table] of tables.entries()) {
+    assert.deepEqual(await table.locator('tbody tr').first().locator('td').allInnerTexts(),
+      shapes[Math.floor(i / 2)]);
+  }
 }));
 
 test('a command that cannot be converted says why', () => withReport(async (page) => {

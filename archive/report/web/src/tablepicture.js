@@ -5,12 +5,26 @@ import { depthOf, drawnHeaders, leavesOf } from './tableheaders.js';
 /** More rows or columns are not drawn, but for one that tells of them in each header. */
 const MOST_DRAWN = 80;
 
+const MOST_DECIMALS = 16;
+
+/** The decimals that a format says, and the signs that its type writes. */
+function sampleOf(format) {
+  const [, type, decimals] = /^([a-z]+)\d+(?:\.(\d+))?$/i.exec(format) ?? [];
+  const digits = Math.min(Number(decimals ?? 0), MOST_DECIMALS);
+  return `${type === 'DOLLAR' ? '$' : ''}00${digits > 0 ? `.${'0'.repeat(digits)}` : ''}` +
+    `${type === 'PCT' ? '%' : ''}`;
+}
+
+/** The shape of a statistic's numbers; without a format, of those it usually makes. */
 function sample({ statistic }) {
   if (statistic === undefined) {
     return null;
   }
-  return /PCT/.test(statistic.name) ? '00.0 %' : /COUNT|RESPONSES|VALIDN/.test(statistic.name)
-    ? '00' : '00.0';
+  const { name, format } = statistic;
+  if (format !== null) {
+    return sampleOf(format);
+  }
+  return /PCT/.test(name) ? '00.0%' : /COUNT|RESPONSES|VALIDN/.test(name) ? '00' : '00.0';
 }
 
 /**
