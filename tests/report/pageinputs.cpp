@@ -49,6 +49,7 @@ std::vector<PageInput> PageInputs() {
         {"pictures/toolarge.syn", TooLargeToCompare()},
         {"pictures/wide.syn", TooLargeToDraw()},
         {"pictures/formats.syn", kFormats},
+        {"charts/control.syn", "IGRAPH /X1=VAR(a) /Y=VAR(b) /TITLE='bell\a' /SCATTER.\n"},
     };
 }
 

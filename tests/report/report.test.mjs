@@ -9,7 +9,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 8;
+const FILES = MADE_UP + 9;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -149,6 +149,14 @@ test('a command that cannot be converted says why', () => withReport(async (page
   const section = page.getByRole('region', { name: 'IGRAPH, line 69' });
   assert.match(await section.locator('.message.bad').innerText(), /cannot be converted/);
 }));
+
+test('a control character in a text of a chart leaves its sketch whole', () =>
+  withReport(async (page) => {
+    await openFile(page, 'charts/control.syn');
+    await seeAll(page);
+    assert.ok((await page.locator('figure svg text').allTextContents()).includes('bell\uFFFD'));
+    assert.equal(await page.locator('parsererror').count(), 0);
+  }));
 
 for (const colorScheme of ['light', 'dark']) {
   test(`every chart has a sketch, ${colorScheme}`, () => withReport(async (page) => {

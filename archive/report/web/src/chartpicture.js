@@ -18,12 +18,15 @@ function colours() {
   };
 }
 
+/** Texts may hold control characters; XML has no way to write them. */
+const NOT_IN_XML = /[^\t\n\r\u{20}-\u{D7FF}\u{E000}-\u{FFFD}\u{10000}-\u{10FFFF}]/gu;
+
 async function draw(sketch, place) {
   const { spec } = compile({ ...vegaChart(sketch), config: colours() }, {
     logger: vega.logger(vega.Error),
   });
   const view = new vega.View(vega.parse(spec), { renderer: 'svg', logLevel: vega.Error });
-  const svg = await view.toSVG();
+  const svg = (await view.toSVG()).replace(NOT_IN_XML, '\uFFFD');
   view.finalize();
   const parsed = new DOMParser().parseFromString(svg, 'image/svg+xml').documentElement;
   for (const part of parsed.querySelectorAll('[role], [aria-label]')) {
