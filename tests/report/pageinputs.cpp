@@ -42,6 +42,16 @@ TABLES
   /STATISTICS=COUNT CPCT.
 )";
 
+/// A comment without its period, and all that it swallows.
+std::string Swallowed() {
+    constexpr int kLines = 150'000;
+    std::string text = "* no period here\nTABLES /TABLE=sex BY region\n";
+    for (int line = 3; line <= kLines; ++line) {
+        text += "COMPUTE x" + std::to_string(line) + " = " + std::to_string(line) + "\n";
+    }
+    return text;
+}
+
 } // namespace
 
 std::vector<PageInput> PageInputs() {
@@ -49,6 +59,7 @@ std::vector<PageInput> PageInputs() {
         {"pictures/toolarge.syn", TooLargeToCompare()},
         {"pictures/wide.syn", TooLargeToDraw()},
         {"pictures/formats.syn", kFormats},
+        {"pages/long.syn", Swallowed()},
         {"charts/control.syn", "IGRAPH /X1=VAR(a) /Y=VAR(b) /TITLE='bell\a' /SCATTER.\n"},
     };
 }

@@ -1,6 +1,7 @@
 // What users do with a report: scripts/check-report makes one and runs this.
 import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
+import { fill } from '../../archive/report/web/src/dom.js';
 import {
   barriers, closeBrowser, openBrowser, openFile, screenshot, seeAll, withReport,
 } from './browser.mjs';
@@ -9,7 +10,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 9;
+const FILES = MADE_UP + 10;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -75,8 +76,8 @@ test('a file shows old and new side by side, with the lines of the input', () =>
     await openFile(page, 'examples/customers.syn');
     const section = page.getByRole('region', { name: 'TABLES, lines 39 to 44' });
     const [old, converted] = await section.locator('ol.code').all();
-    assert.equal(await old.locator('li').first().getAttribute('value'), '39');
-    assert.equal(await old.locator('li').last().getAttribute('value'), '44');
+    assert.equal(await old.getAttribute('start'), '39');
+    assert.equal(await old.locator('li').count(), 6);
     assert.match(await converted.innerText(), /^CTABLES/);
     assert.ok((await old.locator('del').allInnerTexts()).includes('CPCT'));
     assert.ok((await converted.locator('ins').allInnerTexts()).includes('CTABLES'));
@@ -85,6 +86,20 @@ test('a file shows old and new side by side, with the lines of the input', () =>
     assert.ok(boxes[0].x + boxes[0].width <= boxes[1].x);
     assert.match(await page.getByText('Obsolete form').innerText(), /has been ignored/);
   }));
+
+test('of a command of very many lines the first are shown', () => withReport(async (page) => {
+  await openFile(page, 'pages/long.syn');
+  assert.equal(await page.locator('ol.code li').count(), 20000);
+  assert.equal(await page.locator('ol.code li').last().innerText(), 'COMPUTE x20000 = 20000');
+  assert.equal(await page.locator('.panel .caption').innerText(), 'and 130,000 more lines');
+  assert.equal(await page.locator('.note').innerText(), 'possibly swallowed');
+}));
+
+test('an element takes any number of children', () => {
+  const children = [];
+  fill({ append: (...some) => children.push(...some) }, [Array(300000).fill('child'), null, '']);
+  assert.equal(children.length, 300000);
+});
 
 test('both pictures of a table are there and agree', () => withReport(async (page) => {
   await openFile(page, 'examples/customers.syn');

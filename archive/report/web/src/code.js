@@ -11,6 +11,19 @@ const PIECE = new RegExp([
   /(?<sign>.)/su,
 ].map(({ source }) => source).join('|'), 'gsu');
 
+const LINE_END = /\r\n|\r|\n/;
+
+/** More lines of one command are not shown: browsers take too long for them. */
+const MOST_LINES = 20000;
+
+/** The lines of a text that are shown, and how many more it has. */
+export function firstLines(text) {
+  const lines = text.split(LINE_END);
+  return {
+    first: lines.slice(0, MOST_LINES).join('\n'), more: Math.max(0, lines.length - MOST_LINES),
+  };
+}
+
 /** The pieces of a text: {kind, text}, in their order; they make up the whole text. */
 export function piecesOf(text) {
   const pieces = [];
@@ -64,7 +77,7 @@ export function markDifferences(oldPieces, newPieces) {
 export function linesOf(pieces) {
   const lines = [[]];
   for (const piece of pieces) {
-    piece.text.split(/\r\n|\r|\n/).forEach((text, i) => {
+    piece.text.split(LINE_END).forEach((text, i) => {
       if (i > 0) {
         lines.push([]);
       }

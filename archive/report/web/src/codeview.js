@@ -1,6 +1,6 @@
 // Old and new text of a command side by side.
-import { linesOf, markDifferences, piecesOf } from './code.js';
-import { element } from './dom.js';
+import { firstLines, linesOf, markDifferences, piecesOf } from './code.js';
+import { counted, element } from './dom.js';
 
 function shownPiece({ kind, text, mark }, onlyHere) {
   const shown = kind === 'blank' || kind === 'sign' || kind === 'word' ? text
@@ -8,15 +8,18 @@ function shownPiece({ kind, text, mark }, onlyHere) {
   return mark === undefined ? shown : element(mark === 'only' ? onlyHere : 'u', {}, shown);
 }
 
-function listing(pieces, firstLine, onlyHere, notes) {
-  return element('ol', { class: 'code', start: firstLine },
-    linesOf(pieces).map((line, i) => element('li', { value: firstLine + i },
-      element('code', {}, line.map((piece) => shownPiece(piece, onlyHere))),
-      (notes.get(firstLine + i) ?? []).map((note) => note.cloneNode(true)))));
+function listing({ pieces, more }, firstLine, onlyHere, notes) {
+  return [
+    element('ol', { class: 'code', start: firstLine },
+      linesOf(pieces).map((line, i) => element('li', {},
+        element('code', {}, line.map((piece) => shownPiece(piece, onlyHere))),
+        (notes.get(firstLine + i) ?? []).map((note) => note.cloneNode(true))))),
+    more > 0 ? element('p', { class: 'caption' }, `and ${counted(more, 'more line')}`) : null,
+  ];
 }
 
-function panel(name, ...content) {
-  return element('div', { class: 'panel' }, element('h3', {}, name), ...content);
+function panel(name, content) {
+  return element('div', { class: 'panel' }, element('h3', {}, name), content);
 }
 
 function messages(command) {
@@ -28,7 +31,7 @@ function messages(command) {
     missedLines.length === 0 ? null : element('p', { class: 'message warn' },
       'Possibly a command that this one swallowed: ', missedLines.length > 1 ? 'lines ' : 'line ',
       missedLines.join(', ')),
-  ].flat();
+  ];
 }
 
 /** What is said about single lines of the old text. */
@@ -46,19 +49,25 @@ function notesOnLines({ error, missedLines }) {
 /** The new form as the output file has it: without blank lines. */
 const asWritten = (text) => text.replace(/\n(?:[ \t\r]*\n)+/g, '\n');
 
+/** What is shown of a text: the pieces of its first lines, and how many more lines it has. */
+function shownPart(text) {
+  const { first, more } = firstLines(text);
+  return { pieces: piecesOf(first), more };
+}
+
 export function codeView(command) {
-  const [oldPieces, newPieces] = [piecesOf(command.oldText), piecesOf(asWritten(command.newText))];
-  if (command.newText !== '') {
-    markDifferences(oldPieces, newPieces);
+  const [oldPart, newPart] = [shownPart(command.oldText), shownPart(asWritten(command.newText))];
+  if (command.newText !== '' && oldPart.more + newPart.more === 0) {
+    markDifferences(oldPart.pieces, newPart.pieces);
   }
   const newForm = command.newText === '' ? messages(command)
-    : [...messages(command), listing(newPieces, 1, 'ins', new Map())];
+    : [messages(command), listing(newPart, 1, 'ins', new Map())];
   const isConvertible = command.kind === 'tables' || command.kind === 'igraph';
   return element('div', { class: isConvertible ? 'pair' : 'pair single' },
     isConvertible ? null : messages(command),
     command.oldText === '' ? null : panel('Old',
-      listing(oldPieces, command.firstLine, 'del', notesOnLines(command))),
-    isConvertible ? panel('New', ...newForm) : null,
+      listing(oldPart, command.firstLine, 'del', notesOnLines(command))),
+    isConvertible ? panel('New', newForm) : null,
     command.newText === '' ? null : element('p', { class: 'legend' },
       element('del', {}, 'only in the old command'), ' ',
       element('ins', {}, 'only in the new one'), ' ', element('u', {}, 'in another place')));

@@ -17,8 +17,17 @@ function filled(node, attributes, children) {
       node.setAttribute(key, value === true ? '' : value);
     }
   }
-  node.append(...children.flat(Infinity).filter((child) => child !== null && child !== ''));
+  fill(node, children);
   return node;
+}
+
+/** Puts children behind those of a node: one by one, for no call takes any number of them. */
+export function fill(node, children) {
+  for (const child of children.flat(Infinity)) {
+    if (child !== null && child !== '') {
+      node.append(child);
+    }
+  }
 }
 
 /** What a page carries as JSON in the script element of the id. */

@@ -1,7 +1,7 @@
 // The page of one file: every command that was converted, or should have been.
 import { chartPicture } from './chartpicture.js';
 import { codeView } from './codeview.js';
-import { counted, element, embedded, shownSize } from './dom.js';
+import { counted, element, embedded, fill, shownSize } from './dom.js';
 import { STATUSES } from './status.js';
 import { tablePicture, tablePictures } from './tablepicture.js';
 
@@ -68,14 +68,17 @@ function facts() {
     ([term, ...value]) => element('div', {}, element('dt', {}, term), element('dd', {}, value))));
 }
 
-document.getElementById('content').replaceChildren(
+const content = document.getElementById('content');
+content.replaceChildren();
+fill(content, [
   element('nav', { 'aria-label': 'Report' },
     element('a', { href: '../index.html' }, 'All files')),
   element('h1', {}, file.path), facts(),
-  ...file.message === '' ? [] : [element('p', { class: 'message bad' }, file.message)],
-  ...file.notes.map((note) => element('p', { class: 'message warn' }, note)),
-  ...file.commands.length > 1 ? [contents()] : [],
-  ...file.commands.map(section));
+  file.message === '' ? null : element('p', { class: 'message bad' }, file.message),
+  file.notes.map((note) => element('p', { class: 'message warn' }, note)),
+  file.commands.length > 1 ? contents() : null,
+  file.commands.map(section),
+]);
 if (location.hash !== '') {
   document.getElementById(location.hash.slice(1))?.scrollIntoView();
 }
