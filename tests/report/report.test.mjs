@@ -87,6 +87,14 @@ test('the list sorts by every column, both ways', () => withReport(async (page) 
   }
 }));
 
+test('outcomes are sorted as they are called', () => withReport(async (page) => {
+  await page.getByLabel('Search').fill('file123');
+  await page.getByRole('columnheader', { name: 'Outcome' }).getByRole('button').click();
+  const outcomes = await column(page, 2);
+  assert.equal(new Set(outcomes).size, 6);
+  assert.ok(isSorted(outcomes, false), outcomes);
+}));
+
 test('going back finds the list as it was', () => withReport(async (page) => {
   await page.getByLabel('Search').fill('examples');
   await page.getByLabel('Show').selectOption('incomplete');

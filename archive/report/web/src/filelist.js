@@ -1,4 +1,5 @@
 // The list of files as values: what is shown of it, in which order.
+import { STATUSES } from './status.js';
 
 /** The columns of a row, which the page carries as an array. */
 export const COLUMNS = [
@@ -42,8 +43,9 @@ export function sorted(rows, { sort, descending }) {
   const direction = descending ? -1 : 1;
   const { isText } = COLUMNS.find(({ key }) => key === sort);
   const order = isText ? (a, b) => (a < b ? -1 : a > b ? 1 : 0) : (a, b) => a - b;
+  const valueOf = sort === 'status' ? ({ status }) => STATUSES[status].name : (row) => row[sort];
   const byPath = (a, b) => (a.path < b.path ? -1 : 1);
-  return [...rows].sort((a, b) => direction * order(a[sort], b[sort]) || byPath(a, b));
+  return [...rows].sort((a, b) => direction * order(valueOf(a), valueOf(b)) || byPath(a, b));
 }
 
 /** The request as a fragment of an address, so that going back finds the list as it was. */
