@@ -52,6 +52,7 @@ std::vector<FileOutcome> HostileFiles(FileOutcome example) {
     CommandOutcome& command = example.commands.at(0);
     command.oldText += "\n/* " + markup + " </script>";
     command.warnings = {markup};
+    command.error = {command.firstLine, 1, markup};
     command.kind = ReportedKind::kOther;
     command.missedLines = {command.firstLine};
     return {disagreeing, example};

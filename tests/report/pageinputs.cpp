@@ -52,6 +52,24 @@ std::string Swallowed() {
     return text;
 }
 
+/// What would be markup in every place that takes a text.
+constexpr const char* kMarkup = R"(TABLES
+  /OBSERVATION=income
+  /FTOTAL=all1 '<b>&"''1'
+  /MDGROUP=papers '<b>&"''2' news1 TO news3 ('<b>&"''')
+  /MRGROUP=worries '<b>&"''7' worry1 worry2
+  /FORMAT=BLANK MISSING('<b>&"''8')
+  /TABLE=sex + all1 BY papers BY worries
+  /STATISTICS=COUNT((F6.0) '<b>&"''3')
+  /TITLE='<b>&"''4'
+  /CORNER='<b>&"''5'
+  /CAPTION='<b>&"''6'.
+IGRAPH
+  /X1=VAR(educ) TITLE='<b>&"''1' /Y=VAR(income) TITLE='<b>&"''2' /COLOR=VAR(sex) TITLE='<b>&"''3'
+  /TITLE='<b>&"''4' '<b>&"''5' /CAPTION='<b>&"''6'
+  /BAR(MEAN).
+)";
+
 } // namespace
 
 std::vector<PageInput> PageInputs() {
@@ -60,6 +78,7 @@ std::vector<PageInput> PageInputs() {
         {"pictures/wide.syn", TooLargeToDraw()},
         {"pictures/formats.syn", kFormats},
         {"pages/long.syn", Swallowed()},
+        {"texts/markup.syn", kMarkup},
         {"charts/control.syn", "IGRAPH /X1=VAR(a) /Y=VAR(b) /TITLE='bell\a' /SCATTER.\n"},
     };
 }

@@ -10,7 +10,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 10;
+const FILES = MADE_UP + 11;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -284,9 +284,30 @@ test('hostile names and texts are shown as texts', () => withReport(async (page)
   const heading = page.getByRole('heading', { level: 1 });
   assert.ok((await heading.innerText()).startsWith(`${markup}/`));
   assert.notEqual(await page.title(), 'broken');
-  assert.equal(await page.getByText(markup, { exact: true }).count(), 3);
+  assert.equal(await page.getByText(markup, { exact: true }).count(), 4);
+  assert.match(await page.locator('.message.bad').nth(1).innerText(), /^Line \d+, column 1: /);
+  assert.ok((await page.locator('.message.bad').nth(1).innerText()).endsWith(`: ${markup}`));
   assert.equal(await page.locator('main script').count(), 0);
   await screenshot(page, 'hostile');
+}));
+
+test('markup in tables and charts is shown as text', () => withReport(async (page) => {
+  const texts = (...numbers) => numbers.map((number) => `<b>&"'${number}`);
+  const hasAll = (shown, wanted) => assert.deepEqual(
+    wanted.filter((text) => !shown.includes(text)), [], `shown: ${shown.join(' | ')}`);
+  await openFile(page, 'texts/markup.syn');
+  await seeAll(page);
+  const old = page.locator('.pair .picture').first();
+  hasAll(await old.locator('th').allInnerTexts(), texts(1, 2, 3));
+  hasAll(await old.locator('caption, .corner, p.caption, .layers li').allInnerTexts(),
+    texts(4, 5, 6, 7));
+  assert.match(await old.locator('.remarks').innerText(), /missing ones “<b>&"'8”/);
+  assert.match(await page.locator('ol.code').nth(1).innerText(), /LABEL='<b>&"''2'/);
+  hasAll(await page.locator('figure svg :is(text, tspan)').allTextContents(),
+    texts(1, 2, 3, 4, 5));
+  hasAll(await page.locator('figure .caption').allInnerTexts(), texts(6));
+  assert.equal(await page.locator('b').count(), 0);
+  await screenshot(page, 'markup');
 }));
 
 test('everything can be done with the keyboard', () => withReport(async (page) => {
