@@ -42,6 +42,13 @@ TABLES
   /STATISTICS=COUNT CPCT.
 )";
 
+/// In the new command the number's period ends the line.
+constexpr const char* kUnread = R"(TABLES
+  /MDGROUP=a x y (1.)
+  /MDGROUP=b x z (1)
+  /TABLE=a + b.
+)";
+
 /// A comment without its period, and all that it swallows.
 std::string Swallowed() {
     constexpr int kLines = 150'000;
@@ -77,6 +84,7 @@ std::vector<PageInput> PageInputs() {
         {"pictures/toolarge.syn", TooLargeToCompare()},
         {"pictures/wide.syn", TooLargeToDraw()},
         {"pictures/formats.syn", kFormats},
+        {"pictures/unread.syn", kUnread},
         {"pages/long.syn", Swallowed()},
         {"texts/markup.syn", kMarkup},
         {"charts/control.syn", "IGRAPH /X1=VAR(a) /Y=VAR(b) /TITLE='bell\a' /SCATTER.\n"},

@@ -10,7 +10,7 @@ before(openBrowser);
 after(closeBrowser);
 
 const MADE_UP = 10000;
-const FILES = MADE_UP + 11;
+const FILES = MADE_UP + 12;
 const ROWS_A_PAGE = 100;
 
 const rows = (page) => page.locator('table.files tbody tr');
@@ -176,6 +176,13 @@ test('pictures that are too large to be compared are not called the same', () =>
     assert.equal(await page.getByText('This table is too large to be drawn.').count(), 2);
     await screenshot(page, 'toolarge');
   }));
+
+test('a new command that cannot be drawn is told of', () => withReport(async (page) => {
+  await openFile(page, 'pictures/unread.syn');
+  assert.equal(await page.locator('.mark').innerText(),
+    'The new command cannot be drawn: compare its text with this table.');
+  assert.equal(await page.locator('table.skeleton').count(), 1);
+}));
 
 test('a wide table is cut, also inside its headers', () => withReport(async (page) => {
   const most = 80;

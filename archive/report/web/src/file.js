@@ -31,13 +31,16 @@ function placeOf({ firstLine, lastLine }) {
   return firstLine === lastLine ? `line ${firstLine}` : `lines ${firstLine} to ${lastLine}`;
 }
 
-function pictures({ oldPicture, newPicture, chartSketch }) {
+function pictures({ error, oldPicture, newPicture, chartSketch }) {
   if (oldPicture !== null && newPicture !== null) {
     return tablePictures(oldPicture, newPicture);
   }
   if (oldPicture !== null) {
-    return element('div', { class: 'panel' },
-      element('h3', {}, 'Table of the old command'), tablePicture(oldPicture, 'Table'));
+    return element('div', { class: 'tables' },
+      error !== null ? null : element('p', { class: 'mark plain' },
+        'The new command cannot be drawn: compare its text with this table.'),
+      element('div', { class: 'panel' },
+        element('h3', {}, 'Table of the old command'), tablePicture(oldPicture, 'Table')));
   }
   return chartSketch === null ? null : chartPicture(chartSketch);
 }
