@@ -130,7 +130,7 @@ def size_rows(kind, effort):
     repeated = {1: 8, 16: 2, 256: 1}
     programs = {size: converter(generated(kind, size * MB)) for size in repeated}
     starts, each = [], {size: [] for size in repeated}
-    for _ in range(3):
+    for _ in range(5):
         starts += interleaved({"": converter(empty)}, 8)[""]
         start = statistics.median(starts)
         for size, runs in repeated.items():

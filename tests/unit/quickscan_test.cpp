@@ -118,7 +118,8 @@ TEST_F(QuickScan, SecondTokenIsGivenOnlyAsAWord) {
 TEST_F(QuickScan, FirstTokenMayBeAMacroName) {
     for (const std::string& name : {"!tab1.5"s, "!12"s, "!*"s, "!"s}) {
         SCOPED_TRACE(name);
-        const auto tokens = QuickFirstTokens(name + " vars=a\n", false);
+        const std::string text = name + " vars=a\n";
+        const auto tokens = QuickFirstTokens(text, false);
         ASSERT_TRUE(tokens);
         EXPECT_EQ(tokens->first, name);
         EXPECT_EQ(tokens->secondWord, "vars");
