@@ -62,17 +62,12 @@ bool IsFunction(std::string_view word, char kind) {
 
 /// `F8.2`, `DOLLAR10`, `F8.`: letters, a width, perhaps decimals.
 bool IsFormat(std::string_view word) {
-    const std::size_t width = word.find_first_of("0123456789");
-    const std::size_t point = word.find('.');
-    const auto areDigits = [](std::string_view digits) {
-        return std::all_of(digits.begin(), digits.end(), IsDigit);
-    };
     const auto isLetter = [](char c) { return c >= 'A' && c <= 'Z'; };
-    return width != 0 && width != std::string_view::npos &&
-           std::all_of(word.begin(), word.begin() + static_cast<std::ptrdiff_t>(width), isLetter) &&
-           width < point &&
-           areDigits(word.substr(width, point == std::string_view::npos ? point : point - width)) &&
-           (point == std::string_view::npos || areDigits(word.substr(point + 1)));
+    const auto* const width = std::find_if_not(word.begin(), word.end(), isLetter);
+    const auto* const point = std::find_if_not(width, word.end(), IsDigit);
+    const bool hasPoint = point != word.end() && *point == '.';
+    return width != word.begin() && width != point &&
+           std::all_of(hasPoint ? point + 1 : point, word.end(), IsDigit);
 }
 
 /// The commands, read rule by rule; a rule fails by CtablesReader::Fail().

@@ -101,12 +101,14 @@ std::string CtablesReader::Number() {
         return end > start;
     };
     bool isNumber = skipDigits();
-    if (end + 1 < rest.size() && rest[end] == '.' && IsDigit(rest[end + 1])) {
-        ++end;
-        isNumber = skipDigits();
-    } else if (isNumber && end + 1 < rest.size() && rest[end] == '.' &&
-               std::string_view(",].").find(rest[end + 1]) != std::string_view::npos) {
-        ++end; // the number's own, not the command's
+    if (end + 1 < rest.size() && rest[end] == '.') {
+        const char next = rest[end + 1];
+        if (IsDigit(next)) {
+            ++end;
+            isNumber = skipDigits();
+        } else if (isNumber && std::string_view(",].").find(next) != std::string_view::npos) {
+            ++end; // the number's own period, not the command's
+        }
     }
     const std::size_t exponent = rest.find_first_of("0123456789", end);
     if (isNumber && (rest.substr(end, 1) == "e" || rest.substr(end, 1) == "E") &&

@@ -39,9 +39,11 @@ std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count)
     if (m_lineStart < m_block.size()) {
         AppendLine(rest);
     }
-    if (rest.find('\n') != std::string_view::npos) {
-        AppendFilledLines(rest);
+    if (rest.find('\n') == std::string_view::npos) {
+        m_block += rest;
+        return count;
     }
+    AppendFilledLines(rest);
     while (!rest.empty()) {
         AppendLine(rest);
     }

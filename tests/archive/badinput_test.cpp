@@ -12,7 +12,6 @@ namespace recastor {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
@@ -21,11 +20,6 @@ std::vector<std::string> DiskIsFullAt(const std::string& calls) {
     return {"LD_PRELOAD=" RECASTOR_FAULT_LIBRARY,
             "RECASTOR_FAULT=" + calls + ':' + std::to_string(ENOSPC),
             "ASAN_OPTIONS=verify_asan_link_order=0"};
-}
-
-/// The same of every call of this name.
-std::vector<std::string> FullDiskIsToldBy(const std::string& call) {
-    return DiskIsFullAt(call + ":1+");
 }
 
 class BadInput : public ArchiveTree {
@@ -222,7 +216,7 @@ TEST_F(BadInput, NothingIsWrittenThroughALinkInTheReport) {
 TEST_F(BadInput, ReportThatFailsAtItsCloseTakesNoPlace) {
     Put("a.syn", kTable);
     const RunResult result =
-        Run({"--report", m_folder.Path() / "report"}, FullDiskIsToldBy("close"));
+        Run({"--report", m_folder.Path() / "report"}, DiskIsFullAt("close:1+"));
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.errors, HasSubstr("/report/run.json: No space left on device\n"));
     EXPECT_TRUE(fs::is_empty(m_folder.Path() / "report"));
@@ -248,7 +242,7 @@ TEST_F(BadInput, FullDiskIsToldCountedAndSurvived) {
 TEST_F(BadInput, FullDiskAtTheReportIsTold) {
     Put("a.syn", kTable);
     const RunResult result =
-        Run({"--report", m_folder.Path() / "report"}, FullDiskIsToldBy("write"));
+        Run({"--report", m_folder.Path() / "report"}, DiskIsFullAt("write:1+"));
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.errors, HasSubstr("/report/run.json: No space left on device\n"));
     EXPECT_FALSE(HasTarget("a.syn"));
