@@ -1,13 +1,68 @@
 // The writing of table expressions: dimensions, terms, variables.
 
+#include "ctables/recastor/expandeddimensions.h"
 #include "ctables/recastor/outputsequence.h"
 #include "ctables/recastor/parsetree.h"
 #include "ctables/recastor/parsetree_lookup.h"
+#include "ctables/recastor/statisticsmemo.h"
 #include "platform/zelkbase/zelkassert.h"
+
+#include <utility>
 
 namespace recastor {
 
 namespace {
+
+/// A variable that gets statistics, with the type that the command declares.
+struct Magnet {
+    const TbTrParseNode& table;
+    const TbTrParseNode& variable;
+    int type;
+    int dimension;
+    const TbTrParseNode& expandedDimensions;
+};
+
+/// Writes the statistics list of the magnet anew, in brackets; nothing when it is empty.
+bool ExpressList(const Magnet& magnet, OutputSequence& list) {
+    OutputSequence functions;
+    if (!ParseTree::ExpressFunctions(ParseTree::FindSubcommand(magnet.table, TB_STATISTICS, false),
+                                     magnet.table, magnet.dimension, magnet.variable,
+                                     magnet.expandedDimensions, functions)) {
+        return false;
+    }
+    if (!functions.IsEmpty()) {
+        list.PushBack("[", false);
+        list.PushBack(functions);
+        list.PushBack("]", false);
+        list.FuseShortLine();
+    }
+    return true;
+}
+
+void AppendList(const OutputSequence& list, OutputSequence& output) {
+    if (!list.IsEmpty()) {
+        output.PushBack(list);
+    }
+}
+
+/// Writes the statistics list of the magnet, one that another term has already where it may.
+bool ExpressStatistics(const Magnet& magnet, OutputSequence& output) {
+    const ExpandedDimensions* const dimensions = magnet.expandedDimensions.AsExpandedDimensions();
+    StatisticsMemo* const memo = dimensions != nullptr ? dimensions->KeptStatistics() : nullptr;
+    const auto traits = memo != nullptr ? memo->TraitsOf(magnet.variable, magnet.type, magnet.table)
+                                        : StatisticsMemo::kUntold;
+    const bool told = traits != StatisticsMemo::kUntold;
+    if (const OutputSequence* kept = told ? memo->Find(traits) : nullptr) {
+        AppendList(*kept, output);
+        return true;
+    }
+    OutputSequence list;
+    if (!ExpressList(magnet, list)) {
+        return false;
+    }
+    AppendList(told ? memo->Keep(traits, std::move(list)) : list, output);
+    return true;
+}
 
 /// Writes the operands of a stacking or nesting with their operator between them.
 template <typename ExpressOperand>
@@ -106,22 +161,8 @@ bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTr
     } else if (type == 0) {
         output.ExtendLastPiece("[C]");
     }
-    if (!withStatistics) {
-        return true;
-    }
-    OutputSequence statistics;
-    if (!ExpressFunctions(FindSubcommand(table, TB_STATISTICS, false), table, dimension, variable,
-                          expandedDimensions, statistics)) {
-        return false;
-    }
-    if (!statistics.IsEmpty()) {
-        output.BeginPart();
-        output.PushBack("[", false);
-        output.PushBack(statistics);
-        output.PushBack("]", false);
-        output.FuseShortLine();
-    }
-    return true;
+    return !withStatistics ||
+           ExpressStatistics({table, variable, type, dimension, expandedDimensions}, output);
 }
 
 const TbTrParseNode* ParseTree::DetermineMagnetVariable(const TbTrParseNode& term,

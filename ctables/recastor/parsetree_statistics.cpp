@@ -5,6 +5,7 @@
 #include "ctables/recastor/parsetree_functions.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/percentagebase.h"
+#include "ctables/recastor/statisticsmemo.h"
 #include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 
@@ -45,9 +46,7 @@ struct Term {
 };
 
 Term MakeTerm(const TbTrParseNode& table, const TbTrParseNode& magnet) {
-    const TbTrParseNode* const parent = magnet.GetParent();
-    const bool nested = parent != nullptr && parent->GetNodeType() == SP_GREATERTHAN;
-    Term term{table, nested ? *parent : magnet, false, false, {}};
+    Term term{table, TermOfMagnet(magnet), false, false, {}};
     for (const TbTrParseNode* variable = ParseTree::GetNextVariable(term.expression, nullptr);
          variable != nullptr; variable = ParseTree::GetNextVariable(term.expression, variable)) {
         const int type = DeclaredType(*variable, table);

@@ -66,6 +66,9 @@ public:
                 m_expanded.SetDimension(slot, *expression);
             }
         }
+        if (StatisticsExpression().GetNodeType() == SP_PLUS) { // there are several terms
+            m_expanded.KeepStatistics(ParseTree::FindSubcommand(table, TB_STATISTICS, false));
+        }
     }
 
     const TbTrParseNode& StatisticsExpression() const {
