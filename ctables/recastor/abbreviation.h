@@ -18,6 +18,11 @@ constexpr std::uint32_t Abbreviation(std::string_view word) {
     return packed;
 }
 
+/// Whether the upper-cased word begins with the character, in either case.
+constexpr bool BeginsWith(std::string_view upperCased, int code) {
+    return upperCased.front() == (code >= 'a' && code <= 'z' ? code - 'a' + 'A' : code);
+}
+
 /// A word of at most four bytes as one number, which is the same for all spellings of ASCII
 /// letters.
 constexpr std::uint32_t PackUpperCased(std::string_view word) {

@@ -83,7 +83,7 @@ unsigned TbTrParseNode::GetChildIndex(const TbTrParseNode* child) const {
 }
 
 TbTrParseNode* TbTrParseNode::GetChild(unsigned index) const {
-    return index < m_children.Size() ? m_children[index].get() : nullptr;
+    return index < m_children.Size() ? m_children[index] : nullptr;
 }
 
 void TbTrParseNode::Print(std::ostream& out, int level) const {

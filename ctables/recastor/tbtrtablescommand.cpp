@@ -376,18 +376,18 @@ int TbTrTablesCommand::KeywordReadHere() const {
 
 /// Makes one token of a sign and the number behind it, or leaves the sign a token of its own.
 ZELKToken* TbTrTablesCommand::FoldSign(int& code) {
-    std::unique_ptr<ZELKToken> sign(GiveToken());
-    if (m_pTokSeq->Next() && m_pTokSeq->Type() == Base::kNumber) {
-        const std::unique_ptr<ZELKToken> number(GiveToken());
-        const bool negative = code == kMinusSign;
-        code = SP_NUMBER;
-        return MakeSignedNumber(*sign, *number, negative);
+    if (m_pTokSeq->TypeOfNext() != Base::kNumber) {
+        if (code == kMinusSign) {
+            code = SP_OTHEROP;
+        }
+        return GiveToken();
     }
-    m_pTokSeq->Seek(m_pTokSeq->Tell());
-    if (code == kMinusSign) {
-        code = SP_OTHEROP;
-    }
-    return sign.release();
+    const std::unique_ptr<ZELKToken> sign(GiveToken());
+    m_pTokSeq->Next();
+    const std::unique_ptr<ZELKToken> number(GiveToken());
+    const bool negative = code == kMinusSign;
+    code = SP_NUMBER;
+    return MakeSignedNumber(*sign, *number, negative);
 }
 
 /// Notes which subcommand the token belongs to. Behind an obsolete or unknown subcommand's name

@@ -79,6 +79,12 @@ constexpr auto gPackedReservedWords = [] {
     return packed;
 }();
 
+/// The letters that they begin with, which tell most words apart from them.
+constexpr CharSet gReservedStarts = CharSet::Where([](int code) {
+    return std::any_of(gReservedWords.begin(), gReservedWords.end(),
+                       [code](const SpellingRow& row) { return BeginsWith(row.spelling, code); });
+});
+
 /// The characters that operators of more than one begin with.
 constexpr CharSet gLongerOpStarts = CharSet::Where([](int code) {
     return std::any_of(gTwoCharOps.begin(), gTwoCharOps.end(),
@@ -311,7 +317,7 @@ bool ScanWord(MBCharPointer& cursor) {
 
 TokenSequenceBase::OperatorCode ReservedWordCode(std::string_view word) {
     constexpr std::size_t kLongestReservedWord = 4;
-    if (word.size() > kLongestReservedWord) {
+    if (word.size() > kLongestReservedWord || !gReservedStarts.HasAscii(word.front())) {
         return Base::kNotOperator;
     }
     const auto* const found =
@@ -332,6 +338,8 @@ void SkipSeparators(MBCharPointer& cursor, int& line) {
         switch (cursor.Code()) {
         case ' ':
         case '\t':
+            cursor.Next();
+            break;
         case '\n':
         case '\r':
             SkipWhitespace(cursor, lines);

@@ -1,6 +1,7 @@
 #include "ctables/recastor/zelkname.h"
 
 #include "ctables/recastor/abbreviation.h"
+#include "ctables/recastor/lexicalchars.h"
 #include "platform/zelkmb/zelkmb.h"
 
 #include <algorithm>
@@ -26,6 +27,12 @@ constexpr auto gPackedResvWds = [] {
     std::transform(resvWds.begin(), resvWds.end(), packed.begin(), PackUpperCased);
     return packed;
 }();
+
+/// The letters that they begin with, which tell most names apart from them.
+constexpr CharSet gResvWdStarts = CharSet::Where([](int code) {
+    return std::any_of(resvWds.begin(), resvWds.end(),
+                       [code](std::string_view word) { return BeginsWith(word, code); });
+});
 
 /// The punctuation that names may hold.
 constexpr std::string_view specials = "@#$_.";
@@ -77,7 +84,7 @@ bool HoldsOnlyNameChars(const char* name, std::size_t length) {
 }
 
 bool IsReservedWord(const char* name, std::size_t length) {
-    if (length > kLongestReservedWord) {
+    if (length > kLongestReservedWord || !gResvWdStarts.HasAscii(*name)) {
         return false;
     }
     const std::uint32_t packed = PackUpperCased({name, length});
@@ -155,7 +162,7 @@ int ValidateZELKName(const char* name) {
         return kBadNameCharacter;
     }
     const char first = *name;
-    if (Digits.find(first) != std::string_view::npos || first == '_' || first == '.') {
+    if (IsDigit(first) || first == '_' || first == '.') {
         return kBadNameStart;
     }
     if (IsReservedWord(name, length)) {

@@ -31,6 +31,10 @@ public:
     const ZELKToken* Current() const { return m_current.token; }
     ZELKToken::TokenType Type() const { return m_current.type; }
     ZELKToken::OperatorCode Operator() const { return m_current.code; }
+    ZELKToken::TokenType TypeOfNext() const {
+        return m_nextTok < Count() ? m_tokenVec.KnownAt(static_cast<int>(m_nextTok)).type
+                                   : TokenSequenceBase::kAtEnd;
+    }
     ZELKToken* TakeCurrent() {
         if (m_current.token == nullptr) {
             return nullptr;
@@ -97,6 +101,10 @@ ZELKTokenSequence::TokenType ZELKTokenSequence::Type() const {
 
 ZELKTokenSequence::OperatorCode ZELKTokenSequence::Operator() const {
     return m_pImp->Operator();
+}
+
+ZELKTokenSequence::TokenType ZELKTokenSequence::TypeOfNext() const {
+    return m_pImp->TypeOfNext();
 }
 
 void ZELKTokenSequence::AsString(const char*& text, unsigned& length) const {

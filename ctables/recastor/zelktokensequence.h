@@ -43,6 +43,8 @@ public:
     int LineNumber() const override;
     int Column() const override;
 
+    /// The type of the token that Next() would make current; kAtEnd when there is none.
+    TokenType TypeOfNext() const;
     /// The token as written, a literal with its quotes; null and 0 at the end.
     virtual void AsRawString(const char*& text, unsigned& length) const;
     /// Debug print of the current token; nothing at the end.

@@ -21,21 +21,21 @@ struct Named {
     static inline int s_alive = 0;
 };
 
-using Slots = NodeSlots<Named>;
-
-Slots MakeSlots(const std::string& names) {
-    Slots slots;
-    for (const char name : names) {
-        slots.Append(name == '-' ? nullptr : new Named(name));
+/// Slots that hold objects of the given names, "-" for null.
+class Slots : public NodeSlots<Named> {
+public:
+    explicit Slots(const std::string& names) {
+        for (const char name : names) {
+            Append(name == '-' ? nullptr : new Named(name));
+        }
     }
-    return slots;
-}
+};
 
 /// The names in the slots, "-" for null; "?" behind an object that is told a wrong place.
 std::string Names(const Slots& slots) {
     std::string names;
     for (std::size_t i = 0; i < slots.Size(); ++i) {
-        const Named* const object = slots[i].get();
+        const Named* const object = slots[i];
         names += object != nullptr ? object->m_name : '-';
         if (object != nullptr && slots.IndexOf(object->m_place) != i) {
             names += '?';
@@ -45,12 +45,31 @@ std::string Names(const Slots& slots) {
 }
 
 TEST(NodeSlots, HoldObjectsAndNullsInOrder) {
-    EXPECT_EQ(Names(MakeSlots("ab-c")), "ab-c");
-    EXPECT_EQ(Names(MakeSlots("")), "");
+    EXPECT_EQ(Names(Slots("ab-c")), "ab-c");
+    EXPECT_EQ(Names(Slots("")), "");
+}
+
+TEST(NodeSlots, EveryObjectIsDeletedWithThem) {
+    for (const char* names : {"", "a", "ab", "abc", "abcdefghij"}) {
+        { const Slots slots(names); }
+        EXPECT_EQ(Named::s_alive, 0) << names;
+    }
+}
+
+TEST(NodeSlots, RoomIsMadeForAnyNumber) {
+    const std::string letters = "abcdefghijklmnopqrstuvwxyz";
+    for (std::size_t size = 0; size <= letters.size(); ++size) {
+        Slots slots("");
+        slots.Reserve(size);
+        for (std::size_t i = 0; i < size; ++i) {
+            slots.Append(new Named(letters[i]));
+        }
+        EXPECT_EQ(Names(slots), letters.substr(0, size));
+    }
 }
 
 TEST(NodeSlots, RemovalTakesTheSlotAway) {
-    Slots slots = MakeSlots("abcdef");
+    Slots slots("abcdef");
     slots.Remove(1);
     EXPECT_EQ(Names(slots), "acdef");
     slots.Remove(3);
@@ -65,13 +84,13 @@ TEST(NodeSlots, RemovalTakesTheSlotAway) {
 }
 
 TEST(NodeSlots, RemovedObjectIsDeleted) {
-    Slots slots = MakeSlots("abc");
+    Slots slots("abc");
     slots.Remove(1);
     EXPECT_EQ(Named::s_alive, 2);
 }
 
 TEST(NodeSlots, GrowAfterRemovals) {
-    Slots slots = MakeSlots("abcd");
+    Slots slots("abcd");
     slots.Remove(1);
     slots.Append(new Named('e'));
     EXPECT_EQ(Names(slots), "acde");
@@ -84,7 +103,7 @@ TEST(NodeSlots, NullsAreInsertedAnywhereAlsoAfterRemovals) {
     for (std::size_t removed = 0; removed < 4; ++removed) {
         for (std::size_t index = 0; index <= 3; ++index) {
             for (const std::size_t count : {0U, 1U, 3U}) {
-                Slots slots = MakeSlots("abcd");
+                Slots slots("abcd");
                 slots.Remove(removed);
                 std::string expected = std::string("abcd").erase(removed, 1);
                 expected.insert(index, count, '-');
@@ -96,7 +115,7 @@ TEST(NodeSlots, NullsAreInsertedAnywhereAlsoAfterRemovals) {
 }
 
 TEST(NodeSlots, ExchangeReturnsWhatStoodThere) {
-    Slots slots = MakeSlots("abc");
+    Slots slots("abc");
     slots.Remove(0);
     const auto previous = slots.Exchange(1, new Named('x'));
     EXPECT_EQ(previous->m_name, 'c');
@@ -106,7 +125,7 @@ TEST(NodeSlots, ExchangeReturnsWhatStoodThere) {
 }
 
 TEST(NodeSlots, RemovalsInOrderLeaveLaterPlaces) {
-    Slots slots = MakeSlots("abcdefgh");
+    Slots slots("abcdefgh");
     const std::uint32_t place = slots[7]->m_place;
     for (std::size_t i = 0; i < 4; ++i) {
         slots.Remove(i); // every other one
