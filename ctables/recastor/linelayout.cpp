@@ -11,8 +11,14 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
     return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
 
+std::string LineLayout::TakeText() {
+    CopyPending();
+    return std::move(m_text);
+}
+
 void LineLayout::BreakLine() {
-    Append(NL_STRING);
+    CopyPending();
+    m_text += NL_STRING;
     m_column = 0;
     m_nothingPlaced = false;
 }
@@ -26,33 +32,39 @@ void LineLayout::Place(std::string_view piece) {
         BreakLine();
         AppendToNewLine(piece);
     } else {
-        // Trimming takes the last character along: a comma is told by one with a character behind.
-        if (OutputSequence::TrimString(m_text.substr(m_lastPiece)) != ",") {
-            CarryLastPieceToNewLine();
-        }
+        CarryLastPieceToNewLine();
         Append(piece);
     }
 }
 
-void LineLayout::Append(std::string_view piece) {
-    m_lastPiece = m_text.size();
-    m_text += piece;
-    m_column += piece.size();
+void LineLayout::CopyPending() {
+    m_text += m_pending;
+    m_pending = {};
 }
 
 void LineLayout::AppendToNewLine(std::string_view piece) {
     if (!std::exchange(m_nothingPlaced, false)) {
-        Append(m_indentation);
+        Indent();
     }
     Append(WithoutLeadingBlanks(piece));
 }
 
+void LineLayout::Indent() {
+    CopyPending();
+    m_text += m_indentation;
+    m_column += m_indentation.size();
+}
+
 void LineLayout::CarryLastPieceToNewLine() {
-    const std::string carried(WithoutLeadingBlanks(std::string_view(m_text).substr(m_lastPiece)));
-    m_text.resize(m_lastPiece);
+    const std::string_view last = m_pending.substr(m_pending.size() - m_lastPieceSize);
+    // Trimming takes the last character along: a comma is told by one with a character behind.
+    if (OutputSequence::TrimString(std::string(last)) == ",") {
+        return;
+    }
+    m_pending.remove_suffix(last.size());
     BreakLine();
-    Append(m_indentation);
-    Append(carried);
+    Indent();
+    Append(WithoutLeadingBlanks(last));
 }
 
 } // namespace recastor

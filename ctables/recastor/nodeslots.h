@@ -72,10 +72,9 @@ public:
     void InsertNull(std::size_t index, std::size_t count) {
         CloseGap();
         MakeRoomFor(count);
-        for (std::size_t place = m_used; place-- > index;) {
-            Put(place + count, m_slots[place]);
+        for (std::size_t place = m_used; count > 0 && place-- > index;) {
+            Move(place, place + count);
         }
-        std::fill_n(m_slots + index, count, nullptr);
         m_used += static_cast<std::uint32_t>(count);
     }
 
@@ -96,7 +95,7 @@ private:
     }
     void Grow(std::size_t capacity) {
         T** const larger = SmallObjectAllocator<T*>().allocate(capacity);
-        std::copy_n(m_slots, m_used, larger);
+        std::fill(std::copy_n(m_slots, m_used, larger), larger + capacity, nullptr);
         FreeLargerArray();
         m_slots = larger;
         m_capacity = static_cast<std::uint32_t>(capacity);
@@ -125,7 +124,7 @@ private:
     }
 
     std::array<T*, kFewSlots> m_few{};
-    T** m_slots = m_few.data(); ///< or a larger array on the heap
+    T** m_slots = m_few.data(); ///< or a larger array on the heap; what is not used is null
     // Of 32 bits, since there are many nodes and an index of more does not exist.
     std::uint32_t m_used = 0; ///< slots, the gap with them
     std::uint32_t m_capacity = kFewSlots;
