@@ -70,7 +70,7 @@ std::optional<OldExpression> ExpressionReader::Read(const TbTrParseNode& node, T
     }
     if (type == SP_VARNAME) {
         const ZELKToken& token = TokenOf(node);
-        const int declared = DeclaredType(token, m_table);
+        const int declared = DeclaredType(node, m_table);
         return OldExpression{0, {&token, declared, WrittenName(token, declared), {}}, {}};
     }
     Operands operands;

@@ -77,7 +77,7 @@ void OutputSequence::Fuse() {
     }
 }
 
-void OutputSequence::FuseShortLine() {
+void OutputSequence::FuseShortPieces() {
     constexpr std::size_t kLineLength = 79;
     if (Length() < kLineLength) {
         Fuse();

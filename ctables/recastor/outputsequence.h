@@ -19,8 +19,12 @@ public:
     OutputSequence();
 
     void Clear();
-    /// Makes room for so many bytes of text.
-    void Reserve(std::size_t size) { m_text.reserve(size); }
+    /// Makes room for so many bytes of text, in pieces of a usual length.
+    void Reserve(std::size_t size) {
+        constexpr std::size_t kUsualPiece = 16;
+        m_text.reserve(size);
+        m_pieces.reserve(size / kUsualPiece);
+    }
     bool IsEmpty() const { return m_pieces.empty(); }
     /// Appends a piece, with one blank in front when `leadingBlank`.
     void PushBack(std::string_view text, bool leadingBlank);
@@ -39,7 +43,11 @@ public:
     /// Makes one piece of the current line; does nothing when that is empty.
     void Fuse();
     /// The same when the line is shorter than those that are written; a longer one may be broken.
-    void FuseShortLine();
+    void FuseShortLine() {
+        if (m_pieces.size() > CurrentLine() + 1) {
+            FuseShortPieces();
+        }
+    }
     /// The pieces as text in lines of at most `width` bytes, but for a piece that is longer. Every
     /// line but the first begins with `indent` blanks; `indent` is below `width`. No line begins
     /// with a lone comma: the piece before it goes to the new line too.
@@ -63,6 +71,7 @@ private:
         bool isNewline;
     };
 
+    void FuseShortPieces();
     /// Makes a piece of the text behind the last one.
     void AddPiece(bool isNewline);
     std::size_t CurrentLine() const { return static_cast<std::size_t>(m_lastNewline + 1); }

@@ -54,6 +54,8 @@ bool ParseTree::TranslateAllMultiresponseGroups(const TbTrParseNode& root, Outpu
             continue;
         }
         if (output.IsEmpty()) {
+            constexpr std::size_t kUsualLength = 500;
+            output.Reserve(kUsualLength);
             output.PushBack("MRSETS", false);
         }
         output.PushBackNewline();

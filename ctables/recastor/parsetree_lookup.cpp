@@ -7,6 +7,15 @@
 
 namespace recastor {
 
+namespace {
+
+/// A variable's slots hold labels and marks, not parts of the command.
+bool IsLeaf(const TbTrParseNode& node) {
+    return node.GetNodeType() == SP_VARNAME;
+}
+
+} // namespace
+
 const ZELKToken& TokenOf(const TbTrParseNode& node) {
     ZELK_ASSERT(node.GetToken() != nullptr);
     return *node.GetToken();
@@ -36,18 +45,19 @@ std::string WrittenName(const ZELKToken& token, int type) {
     return name;
 }
 
-int DeclaredType(const ZELKToken& name, const TbTrParseNode& table) {
-    int type = 0;
-    ParseTree::FindVariableType(table, name.AsString(false), type);
+int DeclaredType(const TbTrParseNode& variable, const TbTrParseNode& table) {
+    int type = variable.GetNotedType();
+    if (type == TbTrParseNode::kNotLookedUp) {
+        ParseTree::FindVariableType(table, TokenOf(variable).AsString(false), type);
+        variable.NoteType(type);
+    }
     return type;
 }
 
-int DeclaredType(const TbTrParseNode& variable, const TbTrParseNode& table) {
-    return DeclaredType(TokenOf(variable), table);
-}
-
 std::string WrittenNameInTable(const ZELKToken& token, const TbTrParseNode& table) {
-    return WrittenName(token, DeclaredType(token, table));
+    int type = 0;
+    ParseTree::FindVariableType(table, token.AsString(false), type);
+    return WrittenName(token, type);
 }
 
 const TbTrParseNode& CommandRoot(const TbTrParseNode& node) {
@@ -106,12 +116,11 @@ const TbTrParseNode* ParseTree::FindNodeByType(const TbTrParseNode* node, int ty
     if (node == nullptr || node->GetNodeType() == type) {
         return node;
     }
-    if (node->GetNodeType() == SP_VARNAME) {
-        return nullptr; // its slots hold labels and marks, not parts of the command
-    }
-    for (unsigned i = 0; i < node->GetChildCount(); ++i) {
-        if (const TbTrParseNode* found =
-                FindNodeByType(static_cast<const TbTrParseNode*>(node->GetChild(i)), type)) {
+    const unsigned count = IsLeaf(*node) ? 0 : node->GetChildCount();
+    for (unsigned i = 0; i < count; ++i) {
+        const TbTrParseNode* const child = node->GetChild(i);
+        const bool passes = child != nullptr && (child->GetNodeType() == type || !IsLeaf(*child));
+        if (const TbTrParseNode* found = passes ? FindNodeByType(child, type) : nullptr) {
             return found;
         }
     }

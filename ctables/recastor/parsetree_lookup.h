@@ -18,9 +18,24 @@ void MapGroupVariableName(std::string& name);
 
 bool IsGroupType(int type);
 
-/// The type with which the command declares the variable; 0 for a categorical one.
+/// Whether `holds` is true for any leaf of the expression; none behind the first such is asked.
+template <typename Holds>
+bool HoldsForAnyVariable(const TbTrParseNode& expression, const Holds& holds) {
+    const int type = expression.GetNodeType();
+    if (type != SP_PLUS && type != SP_GREATERTHAN) {
+        return holds(expression);
+    }
+    for (unsigned i = 0; i < expression.GetChildCount(); ++i) {
+        if (HoldsForAnyVariable(*expression.GetChild(i), holds)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The type with which the command declares the variable; 0 for a categorical one. It is noted at
+/// the variable.
 int DeclaredType(const TbTrParseNode& variable, const TbTrParseNode& table);
-int DeclaredType(const ZELKToken& name, const TbTrParseNode& table);
 
 /// The text of the variable name, in its own spelling, as it is written: group-mapped when `type`
 /// is a group's.

@@ -111,13 +111,10 @@ int ParseTree::CheckBaseListInVariable(const TbTrParseNode& variable,
 }
 
 int ParseTree::CheckBaseListInSubtree(const TbTrParseNode& subtree, const TbTrParseNode& baseList) {
-    for (const TbTrParseNode* variable = GetNextVariable(subtree, nullptr); variable != nullptr;
-         variable = GetNextVariable(subtree, variable)) {
-        if (CheckBaseListInVariable(*variable, baseList) != 0) {
-            return 1;
-        }
-    }
-    return 0;
+    const bool holdsBase = HoldsForAnyVariable(subtree, [&](const TbTrParseNode& variable) {
+        return CheckBaseListInVariable(variable, baseList) != 0;
+    });
+    return holdsBase ? 1 : 0;
 }
 
 } // namespace recastor

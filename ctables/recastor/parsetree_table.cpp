@@ -234,11 +234,10 @@ int ParseTree::DetermineStatsDimension(const TbTrParseNode& table, const TotalsM
             continue;
         }
         firstPresent = firstPresent == 0 ? dimension : firstPresent;
-        for (const TbTrParseNode* variable = GetNextVariable(*expression, nullptr);
-             variable != nullptr; variable = GetNextVariable(*expression, variable)) {
-            if (ChoosesDimension(*variable, table, totals, named)) {
-                return dimension;
-            }
+        if (HoldsForAnyVariable(*expression, [&](const TbTrParseNode& variable) {
+                return ChoosesDimension(variable, table, totals, named);
+            })) {
+            return dimension;
         }
     }
     constexpr int kColumns = 2;

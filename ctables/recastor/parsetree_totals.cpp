@@ -112,10 +112,10 @@ TbTrParseNode* FindTotalNode(TbTrParseNode& expression, const TbTrParseNode& tab
     while (const TbTrParseNode* variable = ParseTree::GetNextVariable(expression, previous)) {
         const int nodeType = variable->GetNodeType();
         if (nodeType == SP_VARNAME) {
-            int type = 0;
-            declaration =
-                ParseTree::FindVariableType(table, TokenOf(*variable).AsString(false), type);
+            int type = DeclaredType(*variable, table);
             if (type == TB_FTOTAL || type == TB_PTOTAL) {
+                declaration =
+                    ParseTree::FindVariableType(table, TokenOf(*variable).AsString(false), type);
                 return const_cast<TbTrParseNode*>(variable); // the caller's expression holds it
             }
         } else {
@@ -153,7 +153,7 @@ bool AttachTotal(TbTrParseNode& variable, TotalsMap& totals, const TbTrParseNode
                  const TbTrParseNode& declaration, const TbTrParseNode& table) {
     ZELK_ASSERT(variable.GetNodeType() == SP_VARNAME);
     const ZELKToken& token = TokenOf(variable);
-    const int type = DeclaredType(token, table);
+    const int type = DeclaredType(variable, table);
     if (type != 0 && !IsGroupType(type)) {
         return RejectTotal(variable, TbTrTablesCommand::kWrongTotalAssociation);
     }

@@ -2,13 +2,11 @@
 
 namespace recastor {
 
-TbTrCommandNode::Declaration TbTrCommandNode::FindDeclaration(std::string_view name) const {
+TbTrCommandNode::Declaration TbTrCommandNode::FindMarked(std::string_view name) const {
     if (!m_declarationsRead) {
+        m_marks = 0;
         ReadDeclarations();
         m_declarationsRead = true;
-    }
-    if ((m_marks & MarkOf(name)) == 0) {
-        return {};
     }
     const auto found = m_declarations.find(name);
     return found != m_declarations.end() ? found->second : Declaration();

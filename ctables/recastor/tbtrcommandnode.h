@@ -26,10 +26,14 @@ public:
 
     /// The first declaration of the (upper-cased) name. The global subcommands must be in place and
     /// not change afterwards.
-    Declaration FindDeclaration(std::string_view name) const;
+    Declaration FindDeclaration(std::string_view name) const {
+        return (m_marks & MarkOf(name)) != 0 ? FindMarked(name) : Declaration();
+    }
 
 private:
     using Declarations = SmallHashMap<std::string_view, Declaration>;
+
+    static constexpr std::uint64_t kEveryMark = ~std::uint64_t{0};
 
     /// One bit of a few that names are told apart by.
     static std::uint64_t MarkOf(std::string_view name) {
@@ -37,12 +41,14 @@ private:
         const std::size_t last = name.empty() ? 0 : static_cast<unsigned char>(name.back());
         return std::uint64_t{1} << (7 * name.size() + last) % kMarks;
     }
+    Declaration FindMarked(std::string_view name) const;
     void AddName(const TbTrParseNode& name, int type) const;
     void AddNames(const TbTrParseNode* list, int type) const;
     void ReadDeclarations() const;
 
     mutable Declarations m_declarations; ///< by name; the names are those of the nodes' tokens
-    mutable std::uint64_t m_marks = 0;   ///< of the declared names: most names asked for are none
+    /// Of the declared names, which most names asked for are not; every mark until they are read.
+    mutable std::uint64_t m_marks = kEveryMark;
     mutable bool m_declarationsRead = false;
 };
 

@@ -34,6 +34,7 @@ TbTrParseNode::~TbTrParseNode() = default;
 ZELKToken* TbTrParseNode::SetToken(ZELKToken* token) {
     ZELKToken* const previous = m_token.release();
     m_token.reset(token);
+    m_notedType = kNotLookedUp;
     return previous;
 }
 
@@ -104,6 +105,7 @@ void TbTrParseNode::Print(std::ostream& out, int level) const {
 TbTrParseNode* TbTrParseNode::Clone() const {
     auto copy =
         std::make_unique<TbTrParseNode>(m_nodeType, m_token != nullptr ? m_token->Dup() : nullptr);
+    copy->m_notedType = m_notedType;
     copy->m_children.Reserve(m_children.Size());
     for (unsigned i = 0; i < GetChildCount(); ++i) {
         const TbTrParseNode* const child = GetChild(i);

@@ -36,6 +36,9 @@ public:
     TbTrParseNode(const TbTrParseNode&) = delete;
     TbTrParseNode& operator=(const TbTrParseNode&) = delete;
 
+    /// A type that is yet to be looked up.
+    static constexpr int kNotLookedUp = -1;
+
     // The short operations are final, so that the compiler sees through them: every stage of the
     // translation calls them for every node.
 
@@ -59,10 +62,14 @@ public:
     virtual unsigned InsertNullChildren(unsigned index, unsigned count);
     virtual TbTrParseNode* GetChild(unsigned index) const final;
     /// The slot that holds exactly this node.
-    virtual unsigned GetChildIndex(const TbTrParseNode* child) const;
+    virtual unsigned GetChildIndex(const TbTrParseNode* child) const final;
     virtual unsigned GetChildCount() const final {
         return static_cast<unsigned>(m_children.Size());
     }
+    /// The type with which the command declares the variable that this node is, once it was looked
+    /// up and noted: every stage asks for it. A node with another token has it no more.
+    virtual int GetNotedType() const final { return m_notedType; }
+    virtual void NoteType(int declaredType) const final { m_notedType = declaredType; }
     /// Debug print of the tree, `level` tabs deep (none when it is below 0 or above 20).
     virtual void Print(std::ostream& out, int level) const;
     /// This node when it is the root of a parsed command; null for every other node.
@@ -97,6 +104,7 @@ private:
     std::unique_ptr<ZELKToken> m_token;
     TbTrParseNode* m_parent = nullptr;
     NodeSlots<TbTrParseNode> m_children;
+    mutable int m_notedType = kNotLookedUp;
 };
 
 } // namespace recastor

@@ -97,11 +97,37 @@ TEST(FindVariableType, OnlyAVariableDeclares) {
     EXPECT_EQ(type, TB_OBSERVATION);
 }
 
-TEST(DeclaredType, NameAndVariableGiveTheSame) {
+TEST(DeclaredType, IsNotedAtTheVariable) {
+    const TbTrParseNode& table = ParseTable("TABLES /MDGROUP=grp m (1) /TABLE=GRP + a");
+    const TbTrParseNode& group = *table.GetChild(0)->GetChild(0);
+    const TbTrParseNode& categorical = *table.GetChild(0)->GetChild(1);
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(DeclaredType(group, table), TB_MDGROUP);
+        EXPECT_EQ(DeclaredType(categorical, table), 0);
+    }
+    EXPECT_EQ(group.GetNotedType(), TB_MDGROUP);
+    EXPECT_EQ(categorical.GetNotedType(), 0);
+}
+
+TEST(HoldsForAnyVariable, AsksTheLeavesInOrderUpToTheFirst) {
+    std::string asked;
+    const auto holdsFor = [&](const char* name) {
+        asked.clear();
+        return HoldsForAnyVariable(*TreeFromDump("(+ a (> b (+ c e)) f)"),
+                                   [&](const TbTrParseNode& variable) {
+                                       asked += TokenOf(variable).AsString(true);
+                                       return TokenOf(variable).AsString(true) == name;
+                                   });
+    };
+    EXPECT_TRUE(holdsFor("c"));
+    EXPECT_EQ(asked, "abc");
+    EXPECT_FALSE(holdsFor("x"));
+    EXPECT_EQ(asked, "abcef");
+}
+
+TEST(WrittenName, IsTheGroupsWhereTheNameIsAGroup) {
     const TbTrParseNode& table = ParseTable("TABLES /MDGROUP=grp m (1) /TABLE=GRP");
     const TbTrParseNode& variable = *table.GetChild(0);
-    EXPECT_EQ(DeclaredType(variable, table), TB_MDGROUP);
-    EXPECT_EQ(DeclaredType(TokenOf(variable), table), TB_MDGROUP);
     EXPECT_EQ(WrittenNameInTable(TokenOf(variable), table), "$GRP");
     EXPECT_EQ(WrittenName(TokenOf(variable), TB_MRGROUP), "$GRP");
     EXPECT_EQ(WrittenName(TokenOf(variable), TB_OBSERVATION), "GRP");

@@ -45,6 +45,16 @@ TEST(TbTrParseNode, StartsWithTypeAndTokenOnly) {
     EXPECT_EQ(node.GetChildCount(), 0U);
 }
 
+TEST(TbTrParseNode, NotedTypeGoesWithItsToken) {
+    TbTrParseNode node(SP_VARNAME, Word("abc"));
+    EXPECT_EQ(node.GetNotedType(), TbTrParseNode::kNotLookedUp);
+    node.NoteType(TB_FTOTAL);
+    EXPECT_EQ(node.GetNotedType(), TB_FTOTAL);
+    EXPECT_EQ(NodePtr(node.Clone())->GetNotedType(), TB_FTOTAL);
+    delete node.SetToken(Word("abc"));
+    EXPECT_EQ(node.GetNotedType(), TbTrParseNode::kNotLookedUp);
+}
+
 TEST(TbTrParseNode, DeletesItsTokenAndItsChildren) {
     int deleted = 0;
     NodePtr root(new TbTrParseNode(TBI_GENERICLIST, new WatchedToken(deleted)));
