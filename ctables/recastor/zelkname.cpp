@@ -62,32 +62,30 @@ bool IsSingleByteNameChar(char c) {
     return gNameBytes[static_cast<unsigned char>(c)];
 }
 
-std::size_t LengthWithoutTrailingBlanks(const char* text) {
-    std::size_t length = std::strlen(text);
-    while (length > 0 && text[length - 1] == ' ') {
-        --length;
+std::string_view WithoutTrailingBlanks(std::string_view text) {
+    while (text.ends_with(' ')) {
+        text.remove_suffix(1);
     }
-    return length;
+    return text;
 }
 
-bool HoldsOnlyNameChars(const char* name, std::size_t length) {
-    std::size_t i = 0;
-    while (i < length) {
-        const bool ascii = static_cast<unsigned char>(name[i]) < 0x80;
-        const int charLength = ascii ? 1 : ZELKMBmblen_A(name + i, length - i);
-        if (charLength < 1 || (charLength == 1 && !IsSingleByteNameChar(name[i]))) {
+bool HoldsOnlyNameChars(std::string_view name) {
+    while (!name.empty()) {
+        const bool ascii = static_cast<unsigned char>(name.front()) < 0x80;
+        const int charLength = ascii ? 1 : ZELKMBmblen_A(name.data(), name.size());
+        if (charLength < 1 || (charLength == 1 && !IsSingleByteNameChar(name.front()))) {
             return false;
         }
-        i += static_cast<std::size_t>(charLength);
+        name.remove_prefix(static_cast<std::size_t>(charLength));
     }
     return true;
 }
 
-bool IsReservedWord(const char* name, std::size_t length) {
-    if (length > kLongestReservedWord || !gResvWdStarts.HasAscii(*name)) {
+bool IsReservedWord(std::string_view name) {
+    if (name.size() > kLongestReservedWord || !gResvWdStarts.HasAscii(name.front())) {
         return false;
     }
-    const std::uint32_t packed = PackUpperCased({name, length});
+    const std::uint32_t packed = PackUpperCased(name);
     return std::find(gPackedResvWds.begin(), gPackedResvWds.end(), packed) != gPackedResvWds.end();
 }
 
@@ -153,19 +151,23 @@ int MendName(std::string& name) {
 
 } // namespace
 
-int ValidateZELKName(const char* name) {
-    const std::size_t length = LengthWithoutTrailingBlanks(name);
-    if (length == 0 || length > kLongestZELKName) {
+int ValidateZELKName(const char* text) {
+    return ValidateZELKName(std::string_view(text));
+}
+
+int ValidateZELKName(std::string_view text) {
+    const std::string_view name = WithoutTrailingBlanks(text);
+    if (name.empty() || name.size() > kLongestZELKName) {
         return kBadNameLength;
     }
-    if (!HoldsOnlyNameChars(name, length)) {
+    if (!HoldsOnlyNameChars(name)) {
         return kBadNameCharacter;
     }
-    const char first = *name;
+    const char first = name.front();
     if (IsDigit(first) || first == '_' || first == '.') {
         return kBadNameStart;
     }
-    if (IsReservedWord(name, length)) {
+    if (IsReservedWord(name)) {
         return kReservedWord;
     }
     if (first == '#') {
@@ -192,9 +194,10 @@ bool IsValidZelkNameChar(const char* character) {
 }
 
 bool FormNumericZELKName(char* destination, const char* source) {
-    const std::size_t length = LengthWithoutTrailingBlanks(source);
+    const std::string_view digits = WithoutTrailingBlanks(source);
+    const std::size_t length = digits.size();
     if (length == 0 || length > kLongestNumericName ||
-        std::string_view(source, length).find_first_not_of(Digits) != std::string_view::npos) {
+        digits.find_first_not_of(Digits) != std::string_view::npos) {
         return false;
     }
     std::memmove(destination + 1, source, length);

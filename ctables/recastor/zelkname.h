@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace recastor {
 
@@ -26,6 +27,8 @@ enum ZELKNameResult : int {
 
 /// Classifies `name`; never answers kNameEndsInPeriod or kNameEndsInUnderscore.
 int ValidateZELKName(const char* name);
+/// The same of a name of known length, which holds no NUL.
+int ValidateZELKName(std::string_view name);
 
 /// Like ValidateZELKName, but tells an ordinary name that ends in "." or "_" apart.
 int ValidateZELKNameCheckLastChar(const char* name);

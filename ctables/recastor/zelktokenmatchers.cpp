@@ -3,9 +3,11 @@
 #include "ctables/recastor/tokenarray.h"
 #include "ctables/recastor/tokenscan.h"
 #include "ctables/recastor/zelktokenvector.h"
+#include "platform/zelkbase/neighbours.h"
 #include "platform/zelkmb/zelkmb.h"
 
-#include <algorithm>
+#include <array>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,12 +19,24 @@ namespace {
 
 /// Upper-cased; empty when the word is so already, as most keywords are.
 std::string UpperCased(std::string_view word) {
-    if (std::none_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; })) {
-        return {};
+    std::array<char, sizeof(Neighbours)> bytes{};
+    if (word.size() <= bytes.size()) {
+        word.copy(bytes.data(), word.size());
+        const Neighbours all = LoadNeighbours(bytes.data());
+        const Neighbours isLower = (all >= 'a') & (all <= 'z');
+        if (!IsAnyYes(isLower)) {
+            return {};
+        }
+        if (!IsAnyYes(all < 0)) {
+            const Neighbours upper = all - (isLower & ('a' - 'A'));
+            std::memcpy(bytes.data(), &upper, bytes.size());
+            return {bytes.data(), word.size()};
+        }
     }
+    // What looks like a letter may be a part of a longer character.
     std::string text(word);
     ZELKMBstrupr_A(text.data());
-    return text;
+    return text == word ? std::string() : text;
 }
 
 std::string_view TextBetween(const MBCharPointer& start, const MBCharPointer& end) {

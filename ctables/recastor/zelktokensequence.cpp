@@ -6,6 +6,8 @@
 #include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 
+#include <string_view>
+
 namespace recastor {
 
 /// The tokens and the reader's place among them.
@@ -167,7 +169,7 @@ int ZELKTokenSequence::VarNameCategory() const {
     if (token == nullptr || token->Type() != kString) {
         return 0;
     }
-    switch (ValidateZELKName(token->AsString(true).c_str())) {
+    switch (ValidateZELKName(std::string_view(token->AsString(true)))) {
     case kOrdinaryName:
         return 1;
     case kScratchName:
