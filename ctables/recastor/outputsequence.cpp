@@ -29,8 +29,10 @@ void OutputSequence::PushBack(std::string_view text, bool leadingBlank) {
 
 void OutputSequence::AddPiece(bool isNewline) {
     constexpr std::size_t kFewPieces = 8;
+    constexpr std::size_t kFewBytes = 100;
     if (m_pieces.capacity() == 0) {
         m_pieces.reserve(kFewPieces);
+        m_text.reserve(kFewBytes);
     }
     m_pieces.push_back({m_text.size(), isNewline});
 }

@@ -216,7 +216,7 @@ int TbTrTablesCommand::GetNextToken(ZELKToken*& token) {
 /// The current token, for the parser to own. The arguments of BREAK will be read again, and with
 /// them the slash that ends them.
 ZELKToken* TbTrTablesCommand::GiveToken() {
-    const bool staysHere = m_resumePosition != 0 || IsSlash(*m_pTokSeq);
+    const bool staysHere = m_resumePosition != 0 || (m_breakPosition != 0 && IsSlash(*m_pTokSeq));
     return staysHere ? m_pTokSeq->DupToken() : m_pTokSeq->TakeToken();
 }
 

@@ -52,7 +52,7 @@ int yylex(OpaqueValue* value, yyltype* location) {
         *location = command.LastLocation();
         return 0;
     }
-    ZELK_ASSERT_AS(!token->AsString(true).empty(), "tokenStr.size()");
+    ZELK_ASSERT_AS(token->HasText(), "tokenStr.size()");
     if (NamesSubcommand(yyTokenType) && !afterSlash) {
         // Inside another subcommand's arguments: FORMAT=BOX has an argument like any other.
         yyTokenType = SP_OTHEROP;

@@ -36,6 +36,8 @@ public:
     virtual void Print(std::ostream& out, int indent) const = 0;
     /// The source text when `raw`; else a word upper-cased and a literal unquoted.
     virtual const std::string& AsString(bool raw) const;
+    /// Whether there is any source text: what every token is asked, whatever its kind.
+    bool HasText() const { return !m_rawText.empty(); }
     /// A number's value, 0.0 for other tokens.
     virtual double AsNumber() const;
     virtual OperatorCode OpCode() const;
