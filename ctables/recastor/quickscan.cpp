@@ -2,6 +2,7 @@
 
 #include "ctables/recastor/lexicalchars.h"
 #include "platform/zelkbase/neighbours.h"
+#include "platform/zelkmb/zelkmb.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +13,7 @@ namespace recastor {
 
 namespace {
 
-/// What an ASCII character begins where a token may begin.
+/// What a character begins where a token may begin.
 enum class Start : std::uint8_t {
     kUnknown, ///< left to the full walk
     kBlank,
@@ -56,9 +57,10 @@ constexpr Start StartOf(int code) {
                                                                              : Start::kUnknown;
 }
 
+/// By byte. What is beyond ASCII begins a word, if it is a character.
 constexpr auto gStarts = [] {
     std::array<Start, 256> starts{};
-    for (int code = 1; code < 128; ++code) {
+    for (int code = 1; code < 256; ++code) {
         starts[static_cast<std::size_t>(code)] = StartOf(code);
     }
     return starts;
@@ -66,6 +68,7 @@ constexpr auto gStarts = [] {
 
 constexpr CharSet gSpace = CharSet::Of(" \t\n\r");
 constexpr CharSet gLiteralJoin = CharSet::Of(" \n\r");
+constexpr CharSet gPrintable = CharSet::Where([](int code) { return code >= ' ' || code == '\t'; });
 
 Start StartAt(const char* place) {
     return gStarts[static_cast<unsigned char>(*place)];
@@ -80,6 +83,22 @@ const char* Skip(const char* place, const char* end, const CharSet& set) {
 
 bool IsHigh(char c) {
     return static_cast<unsigned char>(c) >= 0x80;
+}
+
+/// Steps over characters of the set, to which all beyond ASCII belong; stops at a byte beyond ASCII
+/// that begins none.
+const char* SkipWithHigh(const char* place, const char* end, const CharSet& set) {
+    for (;;) {
+        place = Skip(place, end, set);
+        if (place == end || !IsHigh(*place)) {
+            return place;
+        }
+        const int length = ZELKMBmblen_A(place, static_cast<std::size_t>(end - place));
+        if (length < 1) {
+            return place;
+        }
+        place += length;
+    }
 }
 
 /// A control character or not ASCII: the bytes there are negative.
@@ -98,11 +117,11 @@ Neighbours MayBeOddNumber(Neighbours c, Neighbours next) {
     return (((c >= '0') & (c <= '9')) | (c == '.')) & ((lowerNext == 'e') | (lowerNext == 'x'));
 }
 
-/// Behind the quote that closes the segment which opens at `quote`, when its line closes it with
-/// nothing but ASCII before; else null.
+/// Behind the quote that closes the segment which opens at `quote`, when its line closes it; else
+/// null.
 const char* BehindSegment(const char* quote, const char* end) {
     const char* const place =
-        Skip(quote + 1, end, *quote == '"' ? gInDoubleQuotes : gInApostrophes);
+        SkipWithHigh(quote + 1, end, *quote == '"' ? gInDoubleQuotes : gInApostrophes);
     return place != end && *place == *quote ? place + 1 : nullptr;
 }
 
@@ -135,16 +154,17 @@ const char* BehindMacroToken(const char* next, const char* end) {
         return next + 1;
     }
     const char* const behindDigits = Skip(next, end, gDigits);
-    return behindDigits != next ? behindDigits : Skip(next, end, gWordChars);
+    return behindDigits != next ? behindDigits : SkipWithHigh(next, end, gWordChars);
 }
 
 /// Behind the token at `place` when it is surely well-formed, or behind a part of it; else null.
-/// A word stops before a byte that is not ASCII, which then is left to the full walk.
 const char* BehindToken(const char* place, const char* end) {
     const char* const next = place + 1;
     switch (StartAt(place)) {
-    case Start::kWord:
-        return Skip(next, end, gWordChars);
+    case Start::kWord: {
+        const char* const behind = SkipWithHigh(place, end, gWordChars);
+        return behind != place ? behind : nullptr;
+    }
     case Start::kDigit:
         return BehindNumber(place, end);
     case Start::kPeriod:
@@ -171,8 +191,8 @@ bool IsLineEnd(const char* place, const char* end) {
 /// The end of a command on a line that may hold quotes.
 std::optional<int> EndOutsideQuotes(std::string_view line) {
     const char* const end = line.data() + line.size();
-    for (const char* place = Skip(line.data(), end, gPlain); place != end;
-         place = Skip(place, end, gPlain)) {
+    for (const char* place = SkipWithHigh(line.data(), end, gPlain); place != end;
+         place = SkipWithHigh(place, end, gPlain)) {
         switch (StartAt(place)) {
         case Start::kPeriod: {
             const char* const behind = Skip(place + 1, end, gBlanks);
@@ -216,6 +236,13 @@ int PeriodAtEnd(std::string_view line) {
     return last != begin && last[-1] == '.' ? static_cast<int>(last - 1 - begin) : -1;
 }
 
+/// Whether the line, which ends in a line feed, consists of characters that are no controls but for
+/// tabs and the line end.
+bool IsPrintable(std::string_view line) {
+    const char* const end = line.data() + line.size();
+    return IsLineEnd(SkipWithHigh(line.data(), end, gPrintable), end);
+}
+
 /// The line, its characters and one more behind the last; `line` ends in a line feed.
 std::string_view TextAndOneMore(std::string_view line) {
     return line.substr(0, line.size() - (line.ends_with("\r\n") ? 1 : 0));
@@ -245,13 +272,14 @@ std::optional<int> QuickEndOfCommand(std::string_view line) {
 }
 
 std::optional<int> QuickEndOfCommentCommand(std::string_view line) {
+    if (!line.ends_with('\n')) {
+        return std::nullopt;
+    }
     const auto isOdd = [](Neighbours c, Neighbours /*next*/) {
         return IsControlOrHigh(c) & (c != '\t');
     };
-    if (!line.ends_with('\n') || IsAnywhere(TextAndOneMore(line), isOdd)) {
-        return std::nullopt;
-    }
-    return PeriodAtEnd(line);
+    const bool isPlain = !IsAnywhere(TextAndOneMore(line), isOdd);
+    return isPlain || IsPrintable(line) ? std::optional(PeriodAtEnd(line)) : std::nullopt;
 }
 
 bool QuickCheckTokens(std::string_view text) {
@@ -288,6 +316,9 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
         return QuickTokens{{first, 1}, {}, true};
     }
     const char* const behind = BehindToken(first, end);
+    if (behind == nullptr || std::any_of(first, behind, IsHigh)) {
+        return std::nullopt;
+    }
     const char* const second = Skip(behind, end, gSpace);
     QuickTokens tokens{{first, behind}, {}, false};
     if (second == end) {
@@ -299,6 +330,9 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
     }
     tokens.areWhole = StartAt(second) != Start::kQuote; // the next line may join another segment
     if (StartAt(second) == Start::kWord) {
+        if (std::any_of(second, behindSecond, IsHigh)) {
+            return std::nullopt;
+        }
         tokens.secondWord = {second, behindSecond};
     }
     return tokens;

@@ -1,9 +1,9 @@
-/// Quick looks at plain text: most lines of a syntax file hold ASCII only and nothing odd.
+/// Quick looks at plain text: most lines of a syntax file hold nothing odd.
 ///
 /// Each of these functions stands for a full walk over characters. It either knows what that would
-/// find or says that it does not; the full walk then finds the answer, or what is wrong. Bytes
-/// beyond ASCII, NULs, comments in slash and asterisk and quotes that their line does not close are
-/// always left to it.
+/// find or says that it does not; the full walk then finds the answer, or what is wrong. Bytes that
+/// are no characters, NULs, comments in slash and asterisk and quotes that their line does not
+/// close are always left to it.
 #pragma once
 
 #include <optional>
@@ -27,7 +27,7 @@ struct QuickTokens {
 };
 
 /// The first tokens of a text that begins with one of these and whose second token is surely
-/// well-formed.
+/// well-formed. Words beyond ASCII are left to the full walk.
 std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch);
 
 } // namespace recastor

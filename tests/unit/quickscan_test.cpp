@@ -36,6 +36,10 @@ TEST_F(QuickScan, EndsOfPlainLinesAreKnown) {
              {"..\n", 1},
              {". .\n", 2},
              {"\n", -1},
+             {"LIST \xC3\xA4.\n", 7},
+             {"TITLE '\xC3\xA4.'\n", -1},
+             {"TITLE '\xC3\xA4 \xE2\x82\xAC'.\n", 14},
+             {"VARIABLE LABELS \xC3\xA4 \"\xF0\x9F\x99\x82\" /b 'c'.\n", 32},
          }) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(QuickEndOfCommand(row.line), std::optional(row.end));
@@ -44,9 +48,10 @@ TEST_F(QuickScan, EndsOfPlainLinesAreKnown) {
 }
 
 TEST_F(QuickScan, OddLinesAreLeftToTheFullWalk) {
-    for (const std::string& line : {"LIST. /* all\n"s, "LIST /* all.\n"s, "TITLE 'a.\n"s,
-                                    "LIST \xC3\xA4.\n"s, "LIST.\0\n"s, "LIST"s, "LIST."s, "LIST. "s,
-                                    "TITLE '\xC3\xA4'.\n"s, "a\rb.\n"s, "a.\rb\n"s, "a/"s, ""s}) {
+    for (const std::string& line :
+         {"LIST. /* all\n"s, "LIST /* all.\n"s, "TITLE 'a.\n"s, "LIST \xC3.\n"s, "LIST.\0\n"s,
+          "LIST"s, "LIST."s, "LIST. "s, "TITLE '\xA4'.\n"s, "TITLE 'a\xC3\n"s, "a\rb.\n"s,
+          "a.\rb\n"s, "a/"s, ""s}) {
         SCOPED_TRACE(line);
         EXPECT_EQ(QuickEndOfCommand(line), std::nullopt);
     }
@@ -61,6 +66,8 @@ TEST_F(QuickScan, EndsOfPlainCommentLinesAreKnown) {
              {"* /* a.\n", 6},
              {"\n", -1},
              {".\n", 0},
+             {"* \xC3\xA4.\n", 4},
+             {"* \xC3\xA4 it's.\tso\n", -1},
          }) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(QuickEndOfCommentCommand(row.line), std::optional(row.end));
@@ -70,7 +77,7 @@ TEST_F(QuickScan, EndsOfPlainCommentLinesAreKnown) {
 
 TEST_F(QuickScan, OddCommentLinesAreLeftToTheFullWalk) {
     for (const std::string& line :
-         {"* \xC3\xA4.\n"s, "* a\0.\n"s, "* a"s, "* a."s, "* a\r.\n"s, ""s}) {
+         {"* \xC3.\n"s, "* \xC3\xA4\x01.\n"s, "* a\0.\n"s, "* a"s, "* a."s, "* a\r.\n"s, ""s}) {
         SCOPED_TRACE(line);
         EXPECT_EQ(QuickEndOfCommentCommand(line), std::nullopt);
     }
@@ -80,7 +87,8 @@ TEST_F(QuickScan, SoundTokensNeedNoFullCheck) {
     for (const std::string& text :
          {""s, " \t\r\n"s, "COMPUTE x = a**2 + 3.5/b.\n"s, "a<>b~=c|d {[1;2]} ?%:_\n"s,
           "TITLE 'a' \"it's\"\n 'b'"s, "1 .5 5. 007"s, "@a #b $c d.e_f\n"s, "a. b ."s,
-          "!macro !1a !1e !* ! !b.5"s, std::string(300, '9')}) {
+          "!macro !1a !1e !* ! !b.5"s, std::string(300, '9'), "\xC3\xA4 a\xC3\xA4 !m\xC3\xA4"s,
+          "'\xC3\xA4' 5\xC3\xA4"s}) {
         SCOPED_TRACE(text);
         EXPECT_TRUE(QuickCheckTokens(text));
         EXPECT_NO_THROW(CheckTokens(text.c_str(), false));
@@ -90,8 +98,8 @@ TEST_F(QuickScan, SoundTokensNeedNoFullCheck) {
 TEST_F(QuickScan, WhatMayBeFaultyNeedsTheFullCheck) {
     for (const std::string& text :
          {"1e5"s, "1E"s, "0x1A"s, std::string(301, '9'), "'a"s, "'a\nb'"s, "'a''b'"s, "'a'+'b'"s,
-          "'a' + 'b'"s, "/* a */"s, "a &/ b"s, "!m\xC3\xA4"s, "a ` b"s, "\x01"s, "\xC3\xA4"s,
-          "a\xC3\xA4"s, "'\xC3\xA4'"s, "a\0b"s}) {
+          "'a' + 'b'"s, "/* a */"s, "a &/ b"s, "!m\xC3"s, "a ` b"s, "\x01"s, "\xC3"s, "a\xA4"s,
+          "'\xC3 '"s, "a\0b"s}) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(QuickCheckTokens(text));
     }
@@ -105,8 +113,8 @@ TEST_F(QuickScan, FirstTokensAreWords) {
 }
 
 TEST_F(QuickScan, SecondTokenIsGivenOnlyAsAWord) {
-    for (const std::string& text :
-         {"LIST\n"s, "LIST .\n"s, "LIST 5"s, "LIST 'a'\n"s, "LIST=a\n"s, "LIST !m\n"s}) {
+    for (const std::string& text : {"LIST\n"s, "LIST .\n"s, "LIST 5"s, "LIST 'a'\n"s, "LIST=a\n"s,
+                                    "LIST !m\n"s, "LIST !m\xC3\xA4"s, "LIST '\xC3\xA4'"s}) {
         SCOPED_TRACE(text);
         const auto tokens = QuickFirstTokens(text, false);
         ASSERT_TRUE(tokens);
@@ -142,7 +150,7 @@ TEST_F(QuickScan, BatchMarkIsNoToken) {
 TEST_F(QuickScan, OtherOpeningsAreLeftToTheTokens) {
     for (const std::string& text :
          {""s, " "s, "\nLIST"s, "5 a"s, "'a' b"s, ", LIST"s, "LIST , a"s, "LIST 1e"s, "LIST 'a\n"s,
-          "!m\xC3\xA4 a"s, "LIST !m\xC3\xA4"s, "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s,
+          "!m\xC3\xA4 a"s, "LIST !m\xC3"s, "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s,
           "\xEF\xBB\xBFLIST a"s, "LIST `"s}) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(QuickFirstTokens(text, false));
