@@ -151,12 +151,12 @@ int MendName(std::string& name) {
 
 } // namespace
 
-int ValidateZELKName(const char* text) {
-    return ValidateZELKName(std::string_view(text));
+int ValidateZELKName(const char* name) {
+    return ValidateZELKName(std::string_view(name));
 }
 
-int ValidateZELKName(std::string_view text) {
-    const std::string_view name = WithoutTrailingBlanks(text);
+int ValidateZELKName(std::string_view name) {
+    name = WithoutTrailingBlanks(name);
     if (name.empty() || name.size() > kLongestZELKName) {
         return kBadNameLength;
     }
