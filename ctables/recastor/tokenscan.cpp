@@ -317,7 +317,8 @@ bool ScanWord(MBCharPointer& cursor) {
 
 TokenSequenceBase::OperatorCode ReservedWordCode(std::string_view word) {
     constexpr std::size_t kLongestReservedWord = 4;
-    if (word.size() > kLongestReservedWord || !gReservedStarts.HasAscii(word.front())) {
+    if (word.empty() || word.size() > kLongestReservedWord ||
+        !gReservedStarts.HasAscii(word.front())) {
         return Base::kNotOperator;
     }
     const auto* const found =
