@@ -182,6 +182,19 @@ const char* BehindToken(const char* place, const char* end) {
     }
 }
 
+/// The same of a token that tells what a command is: no word or macro's name beyond ASCII, and not
+/// directly in front of one.
+const char* BehindAsciiToken(const char* place, const char* end) {
+    const Start start = StartAt(place);
+    const char* const behind =
+        start == Start::kWord ? Skip(place, end, gWordChars) : BehindToken(place, end);
+    if (behind == nullptr || behind == place || (behind != end && IsHigh(*behind)) ||
+        (start == Start::kMacro && std::any_of(place, behind, IsHigh))) {
+        return nullptr;
+    }
+    return behind;
+}
+
 /// Whether the line ends at `place`, in a line feed or a carriage return and a line feed.
 bool IsLineEnd(const char* place, const char* end) {
     place += place != end && *place == '\r' ? 1 : 0;
@@ -315,8 +328,8 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
     if (*first == '*') {
         return QuickTokens{{first, 1}, {}, true};
     }
-    const char* const behind = BehindToken(first, end);
-    if (behind == nullptr || std::any_of(first, behind, IsHigh)) {
+    const char* const behind = BehindAsciiToken(first, end);
+    if (behind == nullptr) {
         return std::nullopt;
     }
     const char* const second = Skip(behind, end, gSpace);
@@ -324,15 +337,12 @@ std::optional<QuickTokens> QuickFirstTokens(std::string_view text, bool batch) {
     if (second == end) {
         return tokens;
     }
-    const char* const behindSecond = *second != ',' ? BehindToken(second, end) : nullptr;
-    if (behindSecond == nullptr || (behindSecond != end && IsHigh(*behindSecond))) {
+    const char* const behindSecond = *second != ',' ? BehindAsciiToken(second, end) : nullptr;
+    if (behindSecond == nullptr) {
         return std::nullopt;
     }
     tokens.areWhole = StartAt(second) != Start::kQuote; // the next line may join another segment
     if (StartAt(second) == Start::kWord) {
-        if (std::any_of(second, behindSecond, IsHigh)) {
-            return std::nullopt;
-        }
         tokens.secondWord = {second, behindSecond};
     }
     return tokens;

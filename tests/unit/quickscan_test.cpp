@@ -114,7 +114,7 @@ TEST_F(QuickScan, FirstTokensAreWords) {
 
 TEST_F(QuickScan, SecondTokenIsGivenOnlyAsAWord) {
     for (const std::string& text : {"LIST\n"s, "LIST .\n"s, "LIST 5"s, "LIST 'a'\n"s, "LIST=a\n"s,
-                                    "LIST !m\n"s, "LIST !m\xC3\xA4"s, "LIST '\xC3\xA4'"s}) {
+                                    "LIST !m\n"s, "LIST '\xC3\xA4'"s}) {
         SCOPED_TRACE(text);
         const auto tokens = QuickFirstTokens(text, false);
         ASSERT_TRUE(tokens);
@@ -150,8 +150,8 @@ TEST_F(QuickScan, BatchMarkIsNoToken) {
 TEST_F(QuickScan, OtherOpeningsAreLeftToTheTokens) {
     for (const std::string& text :
          {""s, " "s, "\nLIST"s, "5 a"s, "'a' b"s, ", LIST"s, "LIST , a"s, "LIST 1e"s, "LIST 'a\n"s,
-          "!m\xC3\xA4 a"s, "LIST !m\xC3"s, "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s,
-          "\xEF\xBB\xBFLIST a"s, "LIST `"s}) {
+          "!m\xC3\xA4 a"s, "LIST !m\xC3"s, "LIST !m\xC3\xA4"s, "LIST !m\xC3\xA4 a"s,
+          "LI\xC3\xA4 a"s, "LIST a\xC3\xA4"s, "\xEF\xBB\xBFLIST a"s, "LIST `"s}) {
         SCOPED_TRACE(text);
         EXPECT_FALSE(QuickFirstTokens(text, false));
     }
