@@ -13,11 +13,10 @@ namespace recastor {
 
 namespace {
 
-/// A variable that gets statistics, with the type that the command declares.
+/// A variable that gets statistics.
 struct Magnet {
     const TbTrParseNode& table;
     const TbTrParseNode& variable;
-    int type;
     int dimension;
     const TbTrParseNode& expandedDimensions;
 };
@@ -49,8 +48,8 @@ void AppendList(const OutputSequence& list, OutputSequence& output) {
 bool ExpressStatistics(const Magnet& magnet, OutputSequence& output) {
     const ExpandedDimensions* const dimensions = magnet.expandedDimensions.AsExpandedDimensions();
     StatisticsMemo* const memo = dimensions != nullptr ? dimensions->KeptStatistics() : nullptr;
-    const auto traits = memo != nullptr ? memo->TraitsOf(magnet.variable, magnet.type, magnet.table)
-                                        : StatisticsMemo::kUntold;
+    const auto traits =
+        memo != nullptr ? memo->TraitsOf(magnet.variable, magnet.table) : StatisticsMemo::kUntold;
     const bool told = traits != StatisticsMemo::kUntold;
     if (const OutputSequence* kept = told ? memo->Find(traits) : nullptr) {
         AppendList(*kept, output);
@@ -162,7 +161,7 @@ bool ParseTree::ExpressVariableInTable(const TbTrParseNode& variable, const TbTr
         output.ExtendLastPiece("[C]");
     }
     return !withStatistics ||
-           ExpressStatistics({table, variable, type, dimension, expandedDimensions}, output);
+           ExpressStatistics({table, variable, dimension, expandedDimensions}, output);
 }
 
 const TbTrParseNode* ParseTree::DetermineMagnetVariable(const TbTrParseNode& term,

@@ -21,6 +21,11 @@ const ZELKToken& TokenOf(const TbTrParseNode& node) {
     return *node.GetToken();
 }
 
+const TbTrParseNode& TermOfMagnet(const TbTrParseNode& magnet) {
+    const TbTrParseNode* const parent = magnet.GetParent();
+    return parent != nullptr && parent->GetNodeType() == SP_GREATERTHAN ? *parent : magnet;
+}
+
 bool IsGroupType(int type) {
     return type == TB_MRGROUP || type == TB_MDGROUP;
 }

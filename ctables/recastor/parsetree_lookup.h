@@ -3,6 +3,7 @@
 
 #include "ctables/recastor/tbtrparsenode.h"
 #include "ctables/recastor/tbtrtablescommand.h"
+#include "platform/zelkbase/zelkassert.h"
 
 #include <string>
 
@@ -18,6 +19,9 @@ void MapGroupVariableName(std::string& name);
 
 bool IsGroupType(int type);
 
+/// The term whose statistics stand behind the magnet: the nesting that holds it, or itself.
+const TbTrParseNode& TermOfMagnet(const TbTrParseNode& magnet);
+
 /// Whether `holds` is true for any leaf of the expression; none behind the first such is asked.
 template <typename Holds>
 bool HoldsForAnyVariable(const TbTrParseNode& expression, const Holds& holds) {
@@ -25,7 +29,9 @@ bool HoldsForAnyVariable(const TbTrParseNode& expression, const Holds& holds) {
     if (type != SP_PLUS && type != SP_GREATERTHAN) {
         return holds(expression);
     }
+    ZELK_ASSERT(expression.GetChildCount() > 0);
     for (unsigned i = 0; i < expression.GetChildCount(); ++i) {
+        ZELK_ASSERT(expression.GetChild(i) != nullptr);
         if (HoldsForAnyVariable(*expression.GetChild(i), holds)) {
             return true;
         }

@@ -5,7 +5,6 @@
 #include "ctables/recastor/parsetree_functions.h"
 #include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/percentagebase.h"
-#include "ctables/recastor/statisticsmemo.h"
 #include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/zelkassert.h"
 

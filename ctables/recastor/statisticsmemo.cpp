@@ -31,11 +31,6 @@ Traits TraitOfType(int type) {
 
 } // namespace
 
-const TbTrParseNode& TermOfMagnet(const TbTrParseNode& magnet) {
-    const TbTrParseNode* const parent = magnet.GetParent();
-    return parent != nullptr && parent->GetNodeType() == SP_GREATERTHAN ? *parent : magnet;
-}
-
 StatisticsMemo::StatisticsMemo(const TbTrParseNode* statistics) {
     for (unsigned i = 0; statistics != nullptr && i < statistics->GetChildCount(); ++i) {
         const TbTrParseNode& function = *statistics->GetChild(i);
@@ -50,7 +45,7 @@ StatisticsMemo::StatisticsMemo(const TbTrParseNode* statistics) {
     m_tellsLists = m_baseLists.size() <= kMostBaseLists;
 }
 
-StatisticsMemo::Traits StatisticsMemo::TraitsOf(const TbTrParseNode& magnet, int magnetType,
+StatisticsMemo::Traits StatisticsMemo::TraitsOf(const TbTrParseNode& magnet,
                                                 const TbTrParseNode& table) const {
     if (!m_tellsLists) {
         return kUntold;
@@ -59,8 +54,7 @@ StatisticsMemo::Traits StatisticsMemo::TraitsOf(const TbTrParseNode& magnet, int
     const TbTrParseNode& term = TermOfMagnet(magnet);
     for (const TbTrParseNode* variable = ParseTree::GetNextVariable(term, nullptr);
          variable != nullptr; variable = ParseTree::GetNextVariable(term, variable)) {
-        const int type = variable == &magnet ? magnetType : DeclaredType(*variable, table);
-        traits |= TraitOfType(type);
+        traits |= TraitOfType(DeclaredType(*variable, table));
         traits |= variable->GetChild(1) != nullptr ? kHasTotals : kNone;
     }
     Traits base = kHoldsFirstBase;

@@ -25,9 +25,8 @@ public:
     /// must not change any more.
     explicit StatisticsMemo(const TbTrParseNode* statistics);
 
-    /// The traits of the term, or kUntold, that has the magnet as its own. `magnetType` is the type
-    /// with which the command declares that.
-    Traits TraitsOf(const TbTrParseNode& magnet, int magnetType, const TbTrParseNode& table) const;
+    /// The traits of the magnet's term, or kUntold.
+    Traits TraitsOf(const TbTrParseNode& magnet, const TbTrParseNode& table) const;
 
     /// The list of terms with the traits, until the next Keep(); null when none is kept.
     const OutputSequence* Find(Traits traits) const;
@@ -49,8 +48,5 @@ private:
     std::array<Entry, kMostKept> m_kept;
     std::size_t m_keptCount = 0; ///< of all that were ever kept
 };
-
-/// The term whose statistics stand behind the magnet: the nesting that holds it, or itself.
-const TbTrParseNode& TermOfMagnet(const TbTrParseNode& magnet);
 
 } // namespace recastor

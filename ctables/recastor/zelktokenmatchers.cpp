@@ -33,7 +33,7 @@ std::string UpperCased(std::string_view word) {
             return {bytes.data(), word.size()};
         }
     }
-    // What looks like a letter may be a part of a longer character.
+    // A long word, or one in which what looks like a letter may be a part of a longer character.
     std::string text(word);
     ZELKMBstrupr_A(text.data());
     return text == word ? std::string() : text;

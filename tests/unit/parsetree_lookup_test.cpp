@@ -125,6 +125,21 @@ TEST(HoldsForAnyVariable, AsksTheLeavesInOrderUpToTheFirst) {
     EXPECT_EQ(asked, "abcef");
 }
 
+TEST(HoldsForAnyVariable, TreeIsChecked) {
+    const auto never = [](const TbTrParseNode&) { return false; };
+    EXPECT_DEATH(HoldsForAnyVariable(*TreeFromDump("(+ a _)"), never),
+                 HasSubstr("expression.GetChild(i) != nullptr"));
+    EXPECT_DEATH(HoldsForAnyVariable(TbTrParseNode(SP_PLUS, nullptr), never),
+                 HasSubstr("expression.GetChildCount() > 0"));
+}
+
+TEST(TermOfMagnet, IsItsNestingOrItself) {
+    const auto stacking = TreeFromDump("(+ a (> b c))");
+    const TbTrParseNode& nesting = *stacking->GetChild(1);
+    EXPECT_EQ(&TermOfMagnet(*stacking->GetChild(0)), stacking->GetChild(0));
+    EXPECT_EQ(&TermOfMagnet(*nesting.GetChild(1)), &nesting);
+}
+
 TEST(WrittenName, IsTheGroupsWhereTheNameIsAGroup) {
     const TbTrParseNode& table = ParseTable("TABLES /MDGROUP=grp m (1) /TABLE=GRP");
     const TbTrParseNode& variable = *table.GetChild(0);

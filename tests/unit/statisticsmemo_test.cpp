@@ -1,11 +1,9 @@
 #include "ctables/recastor/parsetree.h"
-#include "ctables/recastor/parsetree_lookup.h"
 #include "ctables/recastor/statisticsmemo.h"
 #include "tests/support/commandtree.h"
 #include "tests/support/translatedtext.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -33,7 +31,7 @@ std::vector<Traits> TraitsOfTerms(const std::string& rows, const std::string& st
     for (unsigned i = 0; i < stacking.GetChildCount(); ++i) {
         const TbTrParseNode& magnet =
             *ParseTree::DetermineMagnetVariable(*stacking.GetChild(i), table);
-        traits.push_back(memo.TraitsOf(magnet, DeclaredType(magnet, table), table));
+        traits.push_back(memo.TraitsOf(magnet, table));
     }
     return traits;
 }
@@ -66,12 +64,12 @@ TEST(StatisticsMemo, TermsWithAndWithoutTotalsAreNotAlike) {
     TbTrParseNode& a = *table.GetChild(0)->GetChild(0);
     TbTrParseNode& b = *table.GetChild(0)->GetChild(1)->GetChild(0);
     const TbTrParseNode& c = *table.GetChild(0)->GetChild(1)->GetChild(1);
-    const Traits before = memo.TraitsOf(a, 0, table);
-    EXPECT_EQ(memo.TraitsOf(c, 0, table), before);
+    const Traits before = memo.TraitsOf(a, table);
+    EXPECT_EQ(memo.TraitsOf(c, table), before);
     b.SetChild(1, new TbTrParseNode(TBI_FTOTALVAR, nullptr)); // of the term, not of its magnet
-    EXPECT_NE(memo.TraitsOf(c, 0, table), before);
+    EXPECT_NE(memo.TraitsOf(c, table), before);
     a.SetChild(1, new TbTrParseNode(TBI_PTOTALVAR, nullptr));
-    EXPECT_EQ(memo.TraitsOf(a, 0, table), memo.TraitsOf(c, 0, table));
+    EXPECT_EQ(memo.TraitsOf(a, table), memo.TraitsOf(c, table));
 }
 
 TEST(StatisticsMemo, TermsAreToldApartByTheBaseVariablesThatTheyHold) {
