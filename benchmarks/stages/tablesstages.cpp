@@ -59,8 +59,7 @@ OpaqueValue TokenValue(const std::string& text, int code) {
     OpaqueValue value;
     OpaqueValue_Init(value);
     OpaqueValue_SetZELKToken(value,
-                             new ZELKStringToken(text.data(), text.data() + text.size(), 1, 1,
-                                                 std::string(text),
+                             new ZELKStringToken(PaddedText(text), 1, 1, PaddedText(text),
                                                  TokenSequenceBase::kNotOperator),
                              code);
     return value;

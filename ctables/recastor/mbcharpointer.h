@@ -59,6 +59,9 @@ public:
     /// First byte of the current character.
     const char* Pointer() const { return m_ptr; }
 
+    /// Bytes from there to the end of the text, the terminating NUL included.
+    std::size_t BytesToEnd() const { return m_charCount; }
+
     /// Number of the current character, 1-based from the start of the text; after a reset the
     /// character that the cursor then stands on has number 0. Token columns are these numbers, so
     /// columns count from 1 on the first line and from 0 on every later one.

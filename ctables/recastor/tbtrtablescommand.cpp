@@ -19,8 +19,8 @@ using Base = TokenSequenceBase;
 /// What a minus is until it has become part of a number or, if there is none, SP_OTHEROP.
 constexpr int kMinusSign = 510;
 
-/// The text of the slash that begins a command whose first subcommand has none.
-const char slash[] = "/";
+/// The slash that begins a command whose first subcommand has none.
+constexpr std::string_view slash = "/";
 
 struct Keyword {
     std::string_view text;
@@ -148,8 +148,7 @@ ZELKToken* MakeSignedNumber(const ZELKToken& sign, const ZELKToken& number, bool
     number.StartLocation(line, column);
     const std::string text = sign.AsString(true) + number.AsString(true);
     const double value = negative ? -number.AsNumber() : number.AsNumber();
-    return new ZELKNumberToken(text.data(), text.data() + text.size(), line,
-                               std::max(column - 1, 0), value);
+    return new ZELKNumberToken(PaddedText(text), line, std::max(column - 1, 0), value);
 }
 
 } // namespace
@@ -238,7 +237,7 @@ int TbTrTablesCommand::DoStartUp(ZELKToken*& token) {
     if (IsSlash(*m_pTokSeq)) {
         token = GiveToken();
     } else {
-        token = new ZELKOperatorToken(slash, slash + 1, m_pTokSeq->LineNumber(),
+        token = new ZELKOperatorToken(PaddedText(slash), m_pTokSeq->LineNumber(),
                                       m_pTokSeq->Column(), Base::kSlash);
         m_pTokSeq->Seek(m_pTokSeq->Tell());
     }

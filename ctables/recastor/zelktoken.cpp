@@ -98,8 +98,8 @@ const std::string& OperatorTypeName(Base::OperatorCode code) {
     return NameFromTable(OperatorTable(), code);
 }
 
-ZELKToken::ZELKToken(const char* first, const char* end, int line, int column) :
-    m_rawText(first, end), m_line(line), m_column(column) {}
+ZELKToken::ZELKToken(const PaddedText& rawText, int line, int column) :
+    m_rawText(rawText.Copy()), m_line(line), m_column(column) {}
 
 void ZELKToken::Print(std::ostream& out, int indent) const {
     PrintIndent(out, indent);
@@ -128,10 +128,8 @@ int ZELKToken::CompareAsString(const std::string& s, unsigned n, bool raw) const
     return n != 0 ? text.compare(0, n, s, 0, n) : text.compare(s);
 }
 
-ZELKNumberToken::ZELKNumberToken(const char* first, const char* end, int line, int column,
-                                 double value) :
-    ZELKToken(first, end, line, column),
-    m_value(value) {}
+ZELKNumberToken::ZELKNumberToken(const PaddedText& rawText, int line, int column, double value) :
+    ZELKToken(rawText, line, column), m_value(value) {}
 
 ZELKToken* ZELKNumberToken::Dup() const {
     return new ZELKNumberToken(*this);
@@ -142,10 +140,10 @@ void ZELKNumberToken::Print(std::ostream& out, int indent) const {
     out << '\t' << m_value << '\t' << AsString(true) << std::endl;
 }
 
-ZELKStringToken::ZELKStringToken(const char* first, const char* end, int line, int column,
-                                 std::string&& upperCased, OperatorCode code) :
-    ZELKToken(first, end, line, column),
-    m_value(std::move(upperCased)), m_code(code) {}
+ZELKStringToken::ZELKStringToken(const PaddedText& rawText, int line, int column,
+                                 const PaddedText& upperCased, OperatorCode code) :
+    ZELKToken(rawText, line, column),
+    m_value(upperCased.Copy()), m_code(code) {}
 
 ZELKToken* ZELKStringToken::Dup() const {
     return new ZELKStringToken(*this);
@@ -160,9 +158,9 @@ const std::string& ZELKStringToken::AsString(bool raw) const {
     return raw || m_value.empty() ? ZELKToken::AsString(raw) : m_value;
 }
 
-ZELKOperatorToken::ZELKOperatorToken(const char* first, const char* end, int line, int column,
+ZELKOperatorToken::ZELKOperatorToken(const PaddedText& rawText, int line, int column,
                                      OperatorCode code) :
-    ZELKToken(first, end, line, column),
+    ZELKToken(rawText, line, column),
     m_code(code) {}
 
 ZELKToken* ZELKOperatorToken::Dup() const {
@@ -174,9 +172,9 @@ void ZELKOperatorToken::Print(std::ostream& out, int indent) const {
     out << '\t' << OperatorTypeName(m_code) << '\t' << AsString(true) << std::endl;
 }
 
-ZELKLiteralToken::ZELKLiteralToken(const char* first, const char* end, int line, int column,
+ZELKLiteralToken::ZELKLiteralToken(const PaddedText& rawText, int line, int column,
                                    std::string&& value) :
-    ZELKToken(first, end, line, column),
+    ZELKToken(rawText, line, column),
     m_value(std::move(value)) {}
 
 ZELKToken* ZELKLiteralToken::Dup() const {

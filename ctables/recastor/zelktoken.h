@@ -1,6 +1,7 @@
 /// The tokens of command syntax: words, numbers, operators and literals.
 #pragma once
 
+#include "platform/zelkbase/paddedtext.h"
 #include "platform/zelkbase/smallobjects.h"
 #include "platform/zelkbase/tokensequencebase.h"
 
@@ -24,9 +25,9 @@ public:
     using TokenType = TokenSequenceBase::TokenType;
     using OperatorCode = TokenSequenceBase::OperatorCode;
 
-    /// The raw text is the bytes from `first` up to `end`; `line` is 1-based, `column` a character
-    /// number of the cursor (from 1 on the first line, from 0 on later ones).
-    ZELKToken(const char* first, const char* end, int line, int column);
+    /// Copies the raw text; `line` is 1-based, `column` a character number of the cursor (from 1 on
+    /// the first line, from 0 on later ones).
+    ZELKToken(const PaddedText& rawText, int line, int column);
 
     virtual ~ZELKToken() = default;
     virtual TokenType Type() const = 0;
@@ -59,7 +60,7 @@ private:
 /// A numeric constant.
 class ZELKNumberToken final : public ZELKToken {
 public:
-    ZELKNumberToken(const char* first, const char* end, int line, int column, double value);
+    ZELKNumberToken(const PaddedText& rawText, int line, int column, double value);
     TokenType Type() const override { return TokenSequenceBase::kNumber; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;
@@ -73,8 +74,8 @@ private:
 class ZELKStringToken : public ZELKToken {
 public:
     /// `upperCased` may be empty when the raw text is upper-cased already.
-    ZELKStringToken(const char* first, const char* end, int line, int column,
-                    std::string&& upperCased, OperatorCode code);
+    ZELKStringToken(const PaddedText& rawText, int line, int column, const PaddedText& upperCased,
+                    OperatorCode code);
     TokenType Type() const override { return TokenSequenceBase::kString; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;
@@ -89,7 +90,7 @@ private:
 /// A punctuation or operator symbol.
 class ZELKOperatorToken final : public ZELKToken {
 public:
-    ZELKOperatorToken(const char* first, const char* end, int line, int column, OperatorCode code);
+    ZELKOperatorToken(const PaddedText& rawText, int line, int column, OperatorCode code);
     TokenType Type() const override { return TokenSequenceBase::kOperator; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;
@@ -102,7 +103,7 @@ private:
 /// A quoted string; its raw text keeps the quotes and the joins of its segments.
 class ZELKLiteralToken final : public ZELKToken {
 public:
-    ZELKLiteralToken(const char* first, const char* end, int line, int column, std::string&& value);
+    ZELKLiteralToken(const PaddedText& rawText, int line, int column, std::string&& value);
     TokenType Type() const override { return TokenSequenceBase::kLiteral; }
     ZELKToken* Dup() const override;
     void Print(std::ostream& out, int indent) const override;

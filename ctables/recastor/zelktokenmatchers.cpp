@@ -17,30 +17,53 @@ namespace recastor {
 
 namespace {
 
-/// Upper-cased; empty when the word is so already, as most keywords are.
-std::string UpperCased(std::string_view word) {
-    std::array<char, sizeof(Neighbours)> bytes{};
-    if (word.size() <= bytes.size()) {
-        word.copy(bytes.data(), word.size());
-        const Neighbours all = LoadNeighbours(bytes.data());
-        const Neighbours isLower = (all >= 'a') & (all <= 'z');
-        if (!IsAnyYes(isLower)) {
-            return {};
-        }
-        if (!IsAnyYes(all < 0)) {
-            const Neighbours upper = all - (isLower & ('a' - 'A'));
-            std::memcpy(bytes.data(), &upper, bytes.size());
-            return {bytes.data(), word.size()};
+/// A word upper-cased; empty when it is so already, as most keywords are.
+class UpperCased {
+public:
+    explicit UpperCased(const PaddedText& word) {
+        if (word.Text().size() > m_bytes.size() || !PutInCapitalsAtOnce(word)) {
+            // Long, or what looks like a letter may be a part of a longer character.
+            m_longWord = word.Text();
+            ZELKMBstrupr_A(m_longWord.data());
+            m_size = m_longWord == word.Text() ? 0 : m_longWord.size();
         }
     }
-    // A long word, or one in which what looks like a letter may be a part of a longer character.
-    std::string text(word);
-    ZELKMBstrupr_A(text.data());
-    return text == word ? std::string() : text;
-}
 
-std::string_view TextBetween(const MBCharPointer& start, const MBCharPointer& end) {
-    return {start.Pointer(), end.Pointer()};
+    PaddedText Text() const {
+        return m_longWord.empty() ? PaddedText({m_bytes.data(), m_size}, m_bytes.size())
+                                  : PaddedText({m_longWord.data(), m_size}, m_longWord.size());
+    }
+
+private:
+    /// False when the word holds more than ASCII letters.
+    bool PutInCapitalsAtOnce(const PaddedText& word) {
+        const std::size_t size = word.Text().size();
+        const Neighbours inWord = kPlaces < static_cast<signed char>(size);
+        if (word.Readable() < m_bytes.size()) {
+            word.Text().copy(m_bytes.data(), size);
+        } else {
+            std::memcpy(m_bytes.data(), word.Text().data(), m_bytes.size());
+        }
+        const Neighbours all = LoadNeighbours(m_bytes.data()) & inWord;
+        const Neighbours isLower = (all >= 'a') & (all <= 'z');
+        m_size = IsAnyYes(isLower) ? size : 0;
+        if (m_size > 0 && IsAnyYes(all < 0)) {
+            return false;
+        }
+        const Neighbours upper = all - (isLower & ('a' - 'A'));
+        std::memcpy(m_bytes.data(), &upper, m_bytes.size());
+        return true;
+    }
+
+    static constexpr Neighbours kPlaces = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+
+    std::array<char, sizeof(Neighbours)> m_bytes{};
+    std::size_t m_size = 0;
+    std::string m_longWord;
+};
+
+PaddedText TextBetween(const MBCharPointer& start, const MBCharPointer& end) {
+    return {{start.Pointer(), end.Pointer()}, start.BytesToEnd()};
 }
 
 } // namespace
@@ -51,7 +74,7 @@ bool ZELKTokenVector::MatchLiteral(MBCharPointer& cursor, int line) {
     if (!ScanLiteral(cursor, line, &value)) {
         return false;
     }
-    m_TokVec->Append(std::make_unique<ZELKLiteralToken>(start.Pointer(), cursor.Pointer(), line,
+    m_TokVec->Append(std::make_unique<ZELKLiteralToken>(TextBetween(start, cursor), line,
                                                         start.CharacterNumber(), std::move(value)));
     return true;
 }
@@ -61,9 +84,10 @@ bool ZELKTokenVector::MatchMacroToken(MBCharPointer& cursor, int line) {
     if (!ScanMacroToken(cursor)) {
         return false;
     }
-    m_TokVec->Append(std::make_unique<ZELKStringToken>(
-        start.Pointer(), cursor.Pointer(), line, start.CharacterNumber(),
-        UpperCased(TextBetween(start, cursor)), TokenSequenceBase::kNotOperator));
+    const PaddedText text = TextBetween(start, cursor);
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(text, line, start.CharacterNumber(),
+                                                       UpperCased(text).Text(),
+                                                       TokenSequenceBase::kNotOperator));
     return true;
 }
 
@@ -73,7 +97,7 @@ bool ZELKTokenVector::MatchNumber(MBCharPointer& cursor, int line) {
     if (!ScanNumber(cursor, line, &value)) {
         return false;
     }
-    m_TokVec->Append(std::make_unique<ZELKNumberToken>(start.Pointer(), cursor.Pointer(), line,
+    m_TokVec->Append(std::make_unique<ZELKNumberToken>(TextBetween(start, cursor), line,
                                                        start.CharacterNumber(), value));
     return true;
 }
@@ -85,8 +109,8 @@ bool ZELKTokenVector::MatchOperator(MBCharPointer& cursor, int line) {
         return false;
     }
     if (start.Code() != ',') { // commas separate, but never reach a parser
-        m_TokVec->Append(std::make_unique<ZELKOperatorToken>(start.Pointer(), cursor.Pointer(),
-                                                             line, start.CharacterNumber(), code));
+        m_TokVec->Append(std::make_unique<ZELKOperatorToken>(TextBetween(start, cursor), line,
+                                                             start.CharacterNumber(), code));
     }
     return true;
 }
@@ -96,10 +120,10 @@ bool ZELKTokenVector::MatchWord(MBCharPointer& cursor, int line) {
     if (!ScanWord(cursor)) {
         return false;
     }
-    const std::string_view word = TextBetween(start, cursor);
-    m_TokVec->Append(std::make_unique<ZELKStringToken>(start.Pointer(), cursor.Pointer(), line,
-                                                       start.CharacterNumber(), UpperCased(word),
-                                                       ReservedWordCode(word)));
+    const PaddedText word = TextBetween(start, cursor);
+    m_TokVec->Append(std::make_unique<ZELKStringToken>(word, line, start.CharacterNumber(),
+                                                       UpperCased(word).Text(),
+                                                       ReservedWordCode(word.Text())));
     return true;
 }
 

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <map>
 #include <stdexcept>
-#include <utility>
 
 namespace recastor {
 
@@ -16,9 +15,8 @@ namespace {
 TbTrParseNode* MakeVariable(const std::string& name) {
     std::string upperCased;
     UpperCaseString(name, upperCased);
-    return TbTrParseNode::MakeVarNameNode(
-        new ZELKStringToken(name.data(), name.data() + name.size(), 1, 1, std::move(upperCased),
-                            TokenSequenceBase::kNotOperator));
+    return TbTrParseNode::MakeVarNameNode(new ZELKStringToken(
+        PaddedText(name), 1, 1, PaddedText(upperCased), TokenSequenceBase::kNotOperator));
 }
 
 /// Reads the tree that begins at `position`, and goes behind it.

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -15,8 +16,9 @@ namespace {
 std::unique_ptr<TbTrNameListNode> ListOf(const std::string& letters) {
     auto list = std::make_unique<TbTrNameListNode>(TBI_VARLIST);
     for (const char& letter : letters) {
-        list->AppendChild(TbTrParseNode::MakeVarNameNode(new ZELKStringToken(
-            &letter, &letter + 1, 1, 1, std::string(), TokenSequenceBase::kNotOperator)));
+        list->AppendChild(TbTrParseNode::MakeVarNameNode(
+            new ZELKStringToken(PaddedText(std::string_view(&letter, 1)), 1, 1, PaddedText(""),
+                                TokenSequenceBase::kNotOperator)));
     }
     return list;
 }

@@ -16,18 +16,16 @@ using TokenPtr = std::unique_ptr<ZELKToken>;
 
 /// A token of each kind, with a raw text of its own, at line 3, column 7.
 TokenPtr Make(Base::TokenType type) {
-    static const std::string text = "raw text";
-    const char* const first = text.data();
-    const char* const end = first + 3;
+    const PaddedText raw("raw");
     switch (type) {
     case Base::kNumber:
-        return std::make_unique<ZELKNumberToken>(first, end, 3, 7, 2.5);
+        return std::make_unique<ZELKNumberToken>(raw, 3, 7, 2.5);
     case Base::kString:
-        return std::make_unique<ZELKStringToken>(first, end, 3, 7, "VALUE", Base::kBy);
+        return std::make_unique<ZELKStringToken>(raw, 3, 7, PaddedText("VALUE"), Base::kBy);
     case Base::kOperator:
-        return std::make_unique<ZELKOperatorToken>(first, end, 3, 7, Base::kPlus);
+        return std::make_unique<ZELKOperatorToken>(raw, 3, 7, Base::kPlus);
     default:
-        return std::make_unique<ZELKLiteralToken>(first, end, 3, 7, "value");
+        return std::make_unique<ZELKLiteralToken>(raw, 3, 7, "value");
     }
 }
 

@@ -72,6 +72,23 @@ TEST_F(Tokenizer, WordsValueIsUpperCased) {
     EXPECT_EQ(tokens[1].AsString(false), "BY");
 }
 
+TEST_F(Tokenizer, WordsOfEveryLengthAreUpperCasedWhateverStandsBehind) {
+    const std::string lower = "abcdefghijklmnopqrstuvwxyz";
+    const std::string upper = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    for (std::size_t size = 1; size <= lower.size(); ++size) {
+        for (const char* behind : {"", " ", "+zzzzzzzzzzzzzzzzzzzz", " \u00F6\u00DF\u20AC"}) {
+            const std::string text = lower.substr(0, size) + behind;
+            SCOPED_TRACE(text);
+            const ZELKTokenVector tokens(text.c_str(), false, 1);
+            EXPECT_EQ(tokens[0].AsString(true), lower.substr(0, size));
+            EXPECT_EQ(tokens[0].AsString(false), upper.substr(0, size));
+            const std::string capitals = upper.substr(0, size) + behind;
+            EXPECT_EQ(ZELKTokenVector(capitals.c_str(), false, 1)[0].AsString(false),
+                      upper.substr(0, size));
+        }
+    }
+}
+
 /// The tokens' operator codes.
 std::vector<int> Codes(const std::string& text) {
     const ZELKTokenVector tokens(text.c_str(), false, 0);
