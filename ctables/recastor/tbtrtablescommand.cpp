@@ -74,32 +74,48 @@ constexpr std::array<Keyword, 43> gTablesKWs{{
     {"LABELS", TB_LABELS},
 }};
 
-/// The keyword table in the order of abbreviations, for every word of a command may be looked up
-/// there. Of rows with the same one the first wins.
-using KeywordRow = std::pair<std::uint32_t, int>;
-constexpr auto gKeywordsByAbbreviation = [] {
-    std::array<KeywordRow, gTablesKWs.size()> rows{};
-    std::transform(gTablesKWs.begin(), gTablesKWs.end(), rows.begin(), [](const Keyword& keyword) {
-        return KeywordRow(Abbreviation(keyword.text), keyword.code);
-    });
-    // A stable sort, which the library does not yet have at compile time.
-    for (auto row = rows.begin(); row != rows.end(); ++row) {
-        const auto place =
-            std::upper_bound(rows.begin(), row, *row, [](const KeywordRow& a, const KeywordRow& b) {
-                return a.first < b.first;
-            });
-        std::rotate(place, row, row + 1);
+/// The keyword table by abbreviations, for every word of a command may be looked up there and a
+/// search in halves takes turns that no processor foresees. A row stands at the place that its
+/// abbreviation tells or at the next one that was free. Of rows with the same one the first wins.
+class KeywordPlaces {
+public:
+    constexpr KeywordPlaces() {
+        for (const Keyword& keyword : gTablesKWs) {
+            const std::uint32_t abbreviation = Abbreviation(keyword.text);
+            Row& row = m_rows[PlaceOf(abbreviation)];
+            if (row.code == 0) {
+                row = {abbreviation, keyword.code};
+            }
+        }
     }
-    return rows;
-}();
+    /// The code of the first row that has the abbreviation; 0 when none has.
+    constexpr int CodeOf(std::uint32_t abbreviation) const {
+        return m_rows[PlaceOf(abbreviation)].code;
+    }
 
-/// The code of the first row that has the abbreviation; 0 when none has.
-int KeywordOfAbbreviation(std::uint32_t abbreviation) {
-    const auto* const row = std::lower_bound(
-        gKeywordsByAbbreviation.begin(), gKeywordsByAbbreviation.end(), abbreviation,
-        [](const KeywordRow& candidate, std::uint32_t sought) { return candidate.first < sought; });
-    return row != gKeywordsByAbbreviation.end() && row->first == abbreviation ? row->second : 0;
-}
+private:
+    struct Row {
+        std::uint32_t abbreviation;
+        int code; ///< 0 in a free place
+    };
+
+    /// So many that few rows claim the same place.
+    static constexpr unsigned kPlaceBits = 8;
+
+    /// Where the abbreviation stands, or the free place where it would.
+    constexpr std::size_t PlaceOf(std::uint32_t abbreviation) const {
+        constexpr std::uint32_t kScatter = 2654435769U; // 2 to the 32nd by the golden ratio
+        std::size_t place = abbreviation * kScatter >> (32U - kPlaceBits);
+        while (m_rows[place].code != 0 && m_rows[place].abbreviation != abbreviation) {
+            place = (place + 1) % m_rows.size();
+        }
+        return place;
+    }
+
+    std::array<Row, 1U << kPlaceBits> m_rows{};
+};
+
+constexpr KeywordPlaces gKeywordPlaces;
 
 bool IsSlash(const ZELKTokenSequence& tokens) {
     return tokens.Type() == Base::kOperator && tokens.Operator() == Base::kSlash;
@@ -162,7 +178,7 @@ int TablesKeyword(const ZELKTokenSequence& tokens) {
     const char* text = nullptr;
     unsigned length = 0;
     tokens.AsUpperString(text, length);
-    return KeywordOfAbbreviation(Abbreviation(std::string_view(text, length)));
+    return gKeywordPlaces.CodeOf(Abbreviation(std::string_view(text, length)));
 }
 
 std::string TbTrTablesCommand::KeywordFromCode(int code) {
