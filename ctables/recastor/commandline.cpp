@@ -5,7 +5,6 @@
 #include "ctables/recastor/messages.h"
 #include "ctables/recastor/outputfile.h"
 #include "ctables/recastor/recastor.h"
-#include "ctables/recastor/tbtrtablescommand.h"
 #include "platform/zelkbase/zelkassert.h"
 #include "platform/zelkmb/zelkmb.h"
 
@@ -81,7 +80,6 @@ int RunConversion(const RunRequest& request) {
         output.WritePending();
         return Fail(IDS_STRING_ERROR_NO_MEMORY, request.inputName);
     }
-    TbTrTablesCommand::g_tablesCommand.Reset(nullptr);
     const bool written = output.Close();
     if (!converted) {
         PrintFailedMessage();

@@ -175,6 +175,7 @@ void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t l
         std::cout << IDS_CONVERSION_TABLES_FAIL;
     }
     PrintCommand(IDS_STRING_END_CTABLES_COMMAND, output, 0);
+    command.Reset(nullptr); // so that the next command begins with all memory free
 }
 
 } // namespace recastor

@@ -13,20 +13,23 @@
 
 namespace recastor {
 
-/// Hands out blocks of up to kLargest bytes from free lists, one for each size; larger ones come
-/// from the heap. What is given back waits for the next object of its size: the memory that is held
-/// is bounded by the largest command. Not for use by several threads.
+/// Hands out blocks of up to kLargest bytes; larger ones come from the heap. Blocks are cut off one
+/// behind the other. What is given back waits for the next object of its size, and once everything
+/// was given back, as it is behind each command, cutting begins anew: so objects that are made one
+/// after the other lie in their order, and the memory that is held is bounded by the largest
+/// command. Not for use by several threads.
 class SmallObjects {
 public:
-    static constexpr std::size_t kLargest = 128;
+    static constexpr std::size_t kLargest = 256;
 
     static void* Allocate(std::size_t size) {
         if (size == 0 || size > kLargest || kUseHeap) {
             return ::operator new(std::max<std::size_t>(size, 1));
         }
+        ++s_inUse;
         Block*& first = FreeList(size);
         if (first == nullptr) {
-            first = NewBlocks(RoundedUp(size));
+            return CutOff(RoundedUp(size));
         }
         Block* const block = first;
         first = block->next;
@@ -40,6 +43,9 @@ public:
         }
         Block*& first = FreeList(size);
         first = ::new (memory) Block{first};
+        if (--s_inUse == 0) {
+            BeginAnew();
+        }
     }
 
 private:
@@ -62,9 +68,19 @@ private:
     static Block*& FreeList(std::size_t size) {
         return s_freeLists[(size - 1) / kGranularity];
     }
-    static Block* NewBlocks(std::size_t size);
+    static void* CutOff(std::size_t size) {
+        if (static_cast<std::size_t>(s_end - s_next) < size) {
+            GoToNextPiece();
+        }
+        return std::exchange(s_next, s_next + size);
+    }
+    static void GoToNextPiece();
+    static void BeginAnew();
 
     static std::array<Block*, kLargest / kGranularity> s_freeLists;
+    static std::size_t s_inUse; ///< blocks that were not given back
+    static std::byte* s_next;   ///< what is yet to be cut, up to s_end
+    static std::byte* s_end;
 };
 
 /// Base of the classes whose objects are such small ones.
