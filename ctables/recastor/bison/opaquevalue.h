@@ -3,6 +3,7 @@
 
 #include "ctables/recastor/tbtrparsenode.h"
 #include "ctables/recastor/zelktoken.h"
+#include "platform/zelkbase/zelkassert.h"
 
 namespace recastor {
 
@@ -20,7 +21,6 @@ inline void OpaqueValue_Init(OpaqueValue& value) {
     value = {nullptr, 0, 0};
 }
 
-bool OpaqueValue_IsValid(const OpaqueValue& value);
 inline bool OpaqueValue_IsEmpty(const OpaqueValue& value) {
     return value.kind == 0;
 }
@@ -30,19 +30,65 @@ inline bool OpaqueValue_IsZELKToken(const OpaqueValue& value) {
 inline bool OpaqueValue_IsParseNode(const OpaqueValue& value) {
     return value.kind > 0;
 }
+inline bool OpaqueValue_IsValid(const OpaqueValue& value) {
+    if (OpaqueValue_IsEmpty(value)) {
+        return value.pointer == nullptr && value.tokenType == 0;
+    }
+    return value.pointer != nullptr && (OpaqueValue_IsZELKToken(value) || value.tokenType == 0);
+}
+
+/// The token of a value that holds one, which stays with it.
+inline ZELKToken* OpaqueValue_Token(const OpaqueValue& value) {
+    return static_cast<ZELKToken*>(value.pointer);
+}
+/// The same of a value that holds a node or nothing.
+inline TbTrParseNode* OpaqueValue_Node(const OpaqueValue& value) {
+    return static_cast<TbTrParseNode*>(value.pointer);
+}
+
+// The parser's actions do little else than the following, which is why the compiler is to see it.
 
 /// Deletes what the value holds and makes it empty.
-void OpaqueValue_Clear(OpaqueValue& opVal);
+inline void OpaqueValue_Clear(OpaqueValue& opVal) {
+    ZELK_ASSERT_AS(OpaqueValue_IsValid(opVal), "OpaqueValue_IsValid( opVal )");
+    if (OpaqueValue_IsZELKToken(opVal)) {
+        delete OpaqueValue_Token(opVal);
+    } else {
+        delete OpaqueValue_Node(opVal);
+    }
+    OpaqueValue_Init(opVal);
+}
+/// Clears the value, which then takes over the token or node.
+inline void OpaqueValue_SetZELKToken(OpaqueValue& value, ZELKToken* pZELKToken, int code) {
+    ZELK_ASSERT(pZELKToken);
+    OpaqueValue_Clear(value);
+    value = {pZELKToken, code, -1};
+}
+inline void OpaqueValue_SetParseNode(OpaqueValue& value, TbTrParseNode* pParseNode) {
+    ZELK_ASSERT(pParseNode);
+    OpaqueValue_Clear(value);
+    value = {pParseNode, 0, 1};
+}
+/// Gives the token up to the caller; the value is empty then.
+inline ZELKToken* OpaqueValue_GiveUpZELKToken(OpaqueValue& opVal) {
+    ZELK_ASSERT_AS(OpaqueValue_IsValid(opVal), "OpaqueValue_IsValid( opVal )");
+    ZELK_ASSERT_AS(OpaqueValue_IsZELKToken(opVal), "OpaqueValue_IsZELKToken( opVal )");
+    ZELKToken* const token = OpaqueValue_Token(opVal);
+    OpaqueValue_Init(opVal);
+    return token;
+}
+/// Gives the node up to the caller, null when the value is empty; it is empty then.
+inline TbTrParseNode* OpaqueValue_GiveUpParseNode(OpaqueValue& opVal) {
+    ZELK_ASSERT_AS(OpaqueValue_IsValid(opVal), "OpaqueValue_IsValid( opVal )");
+    ZELK_ASSERT_AS(!OpaqueValue_IsZELKToken(opVal),
+                   "OpaqueValue_IsEmpty( opVal ) || OpaqueValue_IsParseNode( opVal )");
+    TbTrParseNode* const node = OpaqueValue_Node(opVal);
+    OpaqueValue_Init(opVal);
+    return node;
+}
+
 /// Clears the target, moves what the source holds into it and makes the source empty.
 void OpaqueValue_Assign(OpaqueValue& target, OpaqueValue& source);
-/// Clears the value, which then takes over the token or node.
-void OpaqueValue_SetZELKToken(OpaqueValue& value, ZELKToken* pZELKToken, int code);
-void OpaqueValue_SetParseNode(OpaqueValue& value, TbTrParseNode* pParseNode);
-
-/// Gives the token up to the caller; the value is empty then.
-ZELKToken* OpaqueValue_GiveUpZELKToken(OpaqueValue& opVal);
-/// Gives the node up to the caller, null when the value is empty; it is empty then.
-TbTrParseNode* OpaqueValue_GiveUpParseNode(OpaqueValue& opVal);
 /// The token, which stays with the value.
 const ZELKToken* OpaqueValue_GetZELKToken(const OpaqueValue& opVal);
 /// The grammar code of a token; 0 for an empty value.
