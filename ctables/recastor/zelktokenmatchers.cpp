@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    /// False when the word holds more than ASCII letters.
+    /// False when it cannot: the word holds characters beyond ASCII and may hold letters.
     bool PutInCapitalsAtOnce(const PaddedText& word) {
         const std::size_t size = word.Text().size();
         const Neighbours inWord = kPlaces < static_cast<signed char>(size);

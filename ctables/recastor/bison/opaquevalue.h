@@ -14,6 +14,9 @@ struct OpaqueValue {
     void* pointer;
     int tokenType; ///< the grammar code of a held token
     int kind;      ///< 0 empty, negative a token, positive a node
+
+    static constexpr int kToken = -1;
+    static constexpr int kNode = 1;
 };
 
 /// Makes the value empty, whatever it held.
@@ -37,11 +40,11 @@ inline bool OpaqueValue_IsValid(const OpaqueValue& value) {
     return value.pointer != nullptr && (OpaqueValue_IsZELKToken(value) || value.tokenType == 0);
 }
 
-/// The token of a value that holds one, which stays with it.
+/// The token of a value that must hold one, which stays with it; unchecked.
 inline ZELKToken* OpaqueValue_Token(const OpaqueValue& value) {
     return static_cast<ZELKToken*>(value.pointer);
 }
-/// The same of a value that holds a node or nothing.
+/// The same for the node of a value that holds no token; null when it is empty.
 inline TbTrParseNode* OpaqueValue_Node(const OpaqueValue& value) {
     return static_cast<TbTrParseNode*>(value.pointer);
 }
@@ -62,12 +65,12 @@ inline void OpaqueValue_Clear(OpaqueValue& opVal) {
 inline void OpaqueValue_SetZELKToken(OpaqueValue& value, ZELKToken* pZELKToken, int code) {
     ZELK_ASSERT(pZELKToken);
     OpaqueValue_Clear(value);
-    value = {pZELKToken, code, -1};
+    value = {pZELKToken, code, OpaqueValue::kToken};
 }
 inline void OpaqueValue_SetParseNode(OpaqueValue& value, TbTrParseNode* pParseNode) {
     ZELK_ASSERT(pParseNode);
     OpaqueValue_Clear(value);
-    value = {pParseNode, 0, 1};
+    value = {pParseNode, 0, OpaqueValue::kNode};
 }
 /// Gives the token up to the caller; the value is empty then.
 inline ZELKToken* OpaqueValue_GiveUpZELKToken(OpaqueValue& opVal) {
