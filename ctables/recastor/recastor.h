@@ -20,7 +20,8 @@ bool ConvertCommands(CommandStream& commands, bool batch, std::ostream& output,
 
 /// Converts one TABLES command, whose tokens it takes over, and writes the CTABLES command, or the
 /// reason why there is none, between two comment lines. `lineOffset` is the number of input lines
-/// before the command. One line on standard output tells how it went.
+/// before the command. One line on standard output tells how it went. Nothing of the command stays
+/// behind.
 void ParseTables(ZELKTokenSequence* tokens, std::ostream& output, std::int64_t lineOffset,
                  ConversionListener& listener = SilentListener());
 

@@ -38,20 +38,23 @@ private:
     /// False when it cannot: the word holds characters beyond ASCII and may hold letters.
     bool PutInCapitalsAtOnce(const PaddedText& word) {
         const std::size_t size = word.Text().size();
-        const Neighbours inWord = kPlaces < static_cast<signed char>(size);
+        const char* first = word.Text().data();
         if (word.Readable() < m_bytes.size()) {
             word.Text().copy(m_bytes.data(), size);
-        } else {
-            std::memcpy(m_bytes.data(), word.Text().data(), m_bytes.size());
+            first = m_bytes.data();
         }
-        const Neighbours all = LoadNeighbours(m_bytes.data()) & inWord;
+        const Neighbours inWord = kPlaces < static_cast<signed char>(size);
+        const Neighbours all = LoadNeighbours(first) & inWord;
         const Neighbours isLower = (all >= 'a') & (all <= 'z');
-        m_size = IsAnyYes(isLower) ? size : 0;
-        if (m_size > 0 && IsAnyYes(all < 0)) {
+        if (!IsAnyYes(isLower)) {
+            return true;
+        }
+        if (IsAnyYes(all < 0)) {
             return false;
         }
         const Neighbours upper = all - (isLower & ('a' - 'A'));
         std::memcpy(m_bytes.data(), &upper, m_bytes.size());
+        m_size = size;
         return true;
     }
 
