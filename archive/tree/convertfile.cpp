@@ -155,6 +155,9 @@ FileOutcome FileConverter::ConvertAnew(const FileJob& job, FileResult& result) {
         if (!input.Inspect()) {
             throw SystemError("cannot be read");
         }
+        if (input.IsUtf16()) {
+            throw UnreadableFile("is in UTF-16, which cannot be read: save it as UTF-8 first");
+        }
         if (!job.twin.empty()) {
             outcome.notes.push_back("Its name differs from " + ShownPath(job.twin) +
                                     " in case only.");

@@ -58,6 +58,9 @@ int RunConversion(const RunRequest& request) {
     if (!input.Inspect()) {
         return Fail(IDS_STRING_ERROR_READING_INPUT, request.inputName);
     }
+    if (input.IsUtf16()) {
+        return Fail(IDS_STRING_ERROR_UTF16_INPUT, request.inputName);
+    }
     OutputFile output;
     if (!output.Open(request.outputName, input.File())) {
         return FailWithUsage(IDS_STRING_ERROR_OUTPUT_FILE, request.outputName);

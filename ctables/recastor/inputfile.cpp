@@ -55,6 +55,17 @@ private:
     bool m_crLf = false;
 };
 
+/// Finds out whether a text that comes in blocks begins with the mark of UTF-16.
+class Utf16Mark {
+public:
+    void Feed(std::string_view block) { m_start += block.substr(0, kLength - m_start.size()); }
+    bool IsFound() const { return m_start == "\xFF\xFE" || m_start == "\xFE\xFF"; }
+
+private:
+    static constexpr std::size_t kLength = 2;
+    std::string m_start; ///< up to kLength bytes
+};
+
 } // namespace
 
 bool InputFile::Open(const std::string& name) {
@@ -81,11 +92,14 @@ bool InputFile::SpoolUnlessRewindable() {
 bool InputFile::Inspect() {
     EncodingCheck encoding;
     FirstLineEnd lineEnd;
+    Utf16Mark utf16;
     const bool readToTheEnd = ForEachBlock(m_file, [&](std::string_view block) {
         encoding.Feed(block);
         lineEnd.Feed(block);
+        utf16.Feed(block);
         return true;
     });
+    m_utf16 = utf16.IsFound();
     m_validText = encoding.IsValid();
     m_crLf = lineEnd.IsCrLf();
     return readToTheEnd && m_file.Rewind();

@@ -23,6 +23,9 @@ public:
     std::istream& Stream() { return m_stream; }
     const FileDescriptor& File() const { return m_file; }
 
+    /// Whether the input begins with the byte-order mark of UTF-16, which editors call "Unicode".
+    /// Such a text cannot be read: every second byte of it is a NUL.
+    bool IsUtf16() const { return m_utf16; }
     /// Whether the whole input is valid in the locale's encoding.
     bool IsValidText() const { return m_validText; }
     /// Whether the first line ends in a carriage return and a line feed.
@@ -34,6 +37,7 @@ private:
     FileDescriptor m_file;
     FileReadBuffer m_buffer;
     std::istream m_stream;
+    bool m_utf16 = false;
     bool m_validText = true;
     bool m_crLf = false;
 };

@@ -8,6 +8,8 @@ const std::string IDS_STRING_ARGS = " recastor [-b | /b] inputFile outputFile ";
 const std::string IDS_STRING_ERROR_INPUT_FILE = "Error opening input file ";
 const std::string IDS_STRING_ERROR_OUTPUT_FILE = "Error opening output file ";
 const std::string IDS_STRING_ERROR_READING_INPUT = "Error reading input file ";
+const std::string IDS_STRING_ERROR_UTF16_INPUT =
+    "Text in UTF-16 cannot be read, save it as UTF-8 first: input file ";
 const std::string IDS_STRING_ERROR_WRITING_OUTPUT = "Error writing output file ";
 const std::string IDS_STRING_ERROR_NO_MEMORY = "Not enough memory to convert input file ";
 const std::string IDS_FAILED_MESSAGE = "Syntax conversion failed. See output file for details.";

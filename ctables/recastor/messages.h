@@ -15,6 +15,7 @@ extern const std::string IDS_STRING_ARGS;
 extern const std::string IDS_STRING_ERROR_INPUT_FILE;
 extern const std::string IDS_STRING_ERROR_OUTPUT_FILE;
 extern const std::string IDS_STRING_ERROR_READING_INPUT;
+extern const std::string IDS_STRING_ERROR_UTF16_INPUT;
 extern const std::string IDS_STRING_ERROR_WRITING_OUTPUT;
 extern const std::string IDS_STRING_ERROR_NO_MEMORY;
 extern const std::string IDS_FAILED_MESSAGE;

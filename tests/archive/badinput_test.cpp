@@ -70,6 +70,15 @@ TEST_F(BadInput, LoopsOfLinksAndBrokenLinksAreSurvived) {
     EXPECT_EQ(Message("broken.syn"), "is a link to nothing");
 }
 
+TEST_F(BadInput, FileInUtf16FailsAndIsToldOf) {
+    Put("a.syn", "\xFF\xFE" + std::string("T\0A\0B\0L\0E\0S\0", 12));
+    const RunResult result = Run();
+    EXPECT_THAT(result.output, HasSubstr("1 files: 0 converted, 0 incomplete, 1 failed"));
+    EXPECT_EQ(Message("a.syn"), "is in UTF-16, which cannot be read: save it as UTF-8 first");
+    EXPECT_FALSE(HasTarget("a.syn"));
+    EXPECT_EQ(result.status, 1);
+}
+
 TEST_F(BadInput, WhatIsNoRegularFileIsNotOpened) {
     ASSERT_EQ(::mkfifo((m_source / "pipe.syn").c_str(), 0600), 0);
     fs::create_directory(m_source / "folder.syn");

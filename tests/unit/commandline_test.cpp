@@ -121,6 +121,15 @@ TEST_F(Run, MissingInputIsTold) {
     EXPECT_FALSE(fs::exists(Path("out")));
 }
 
+TEST_F(Run, InputInUtf16IsRefusedAndTheOutputLeftAlone) {
+    WriteFile(Path("out"), "of an earlier run");
+    EXPECT_EQ(Converted("\xFE\xFF" + std::string("\0x\0.", 4)), "of an earlier run");
+    EXPECT_EQ(m_status, 1);
+    EXPECT_EQ(m_errors, "Text in UTF-16 cannot be read, save it as UTF-8 first: input file " +
+                            Path("in") + '\n');
+    EXPECT_EQ(m_said, "");
+}
+
 TEST_F(Run, InputIsLookedAtBeforeTheOutput) {
     Convert(false, Path("none/out"));
     EXPECT_EQ(m_errors, "Error opening input file " + Path("in") + "\n\n" + kUsage + '\n');

@@ -6,6 +6,7 @@
 #include <array>
 #include <fcntl.h>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -13,6 +14,8 @@
 namespace recastor {
 
 namespace {
+
+using namespace std::string_view_literals;
 
 class Input : public Utf8Test {
 protected:
@@ -83,6 +86,21 @@ TEST_F(Input, TextIsValidWhenAllOfItIs) {
 TEST_F(Input, OneInvalidByteMakesTheTextInvalid) {
     Open(std::string(100'000, 'x') + "\xE9\n" + std::string(100'000, 'x'));
     EXPECT_FALSE(m_input.IsValidText());
+}
+
+TEST_F(Input, MarkOfUtf16IsSeenInBothByteOrders) {
+    const auto isUtf16 = [this](std::string_view text) {
+        Open(std::string(text));
+        return m_input.IsUtf16();
+    };
+    EXPECT_TRUE(isUtf16("\xFF\xFEx\0"sv));
+    EXPECT_TRUE(isUtf16("\xFE\xFF\0x"sv));
+    EXPECT_TRUE(isUtf16("\xFF\xFE"));
+    EXPECT_FALSE(isUtf16("\xFF"));
+    EXPECT_FALSE(isUtf16("\xFF\xFF"));
+    EXPECT_FALSE(isUtf16("x\xFF\xFE"));
+    EXPECT_FALSE(isUtf16("\xEF\xBB\xBFx"));
+    EXPECT_FALSE(isUtf16(""));
 }
 
 TEST_F(Input, CharacterMayLieOverTheEndOfABlock) {

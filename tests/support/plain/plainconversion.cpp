@@ -115,6 +115,9 @@ RunTraces ProductRun(const std::string& input, bool batch) {
 }
 
 RunTraces PlainRun(const std::string& input, bool batch) {
+    if (input.starts_with("\xFF\xFE") || input.starts_with("\xFE\xFF")) {
+        return {"", "", 1}; // in UTF-16, which is refused
+    }
     const CapturedStreams streams;
     EnableLocale();
     if (!IsValidText(input)) {
