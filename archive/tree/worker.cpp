@@ -2,6 +2,7 @@
 
 #include "archive/tree/convertfile.h"
 #include "archive/tree/packet.h"
+#include "platform/zelkbase/heapsettings.h"
 
 #include <array>
 #include <csignal>
@@ -56,6 +57,7 @@ void RunWorker(const TreeOptions& options, const FileDescriptor& socket,
     ::setrlimit(RLIMIT_CORE, &noCoreFile);
     ::dup2(errors.Number(), STDERR_FILENO);
     std::cout.rdbuf(nullptr);
+    KeepFreedMemory();
     UseLocale(options.locale);
 
     FileConverter converter(options);
