@@ -25,6 +25,15 @@ std::string Cell(const std::string& text) {
     return cell + '"';
 }
 
+/// Why the file has no target or not all of one, and what else should be known of it.
+std::string MessageAndNotes(const FileOutcome& outcome) {
+    std::string text = outcome.message;
+    for (const std::string& note : outcome.notes) {
+        text += text.empty() ? note : ' ' + note;
+    }
+    return text;
+}
+
 } // namespace
 
 std::string CsvHeader() {
@@ -37,7 +46,7 @@ std::string CsvRow(const OutcomeRecord& record) {
     const OutcomeCounts counts = CountsOf(outcome);
     std::ostringstream row;
     row << Cell(ShownPath(outcome.path)) << ',' << Cell(NameOf(outcome.status)) << ','
-        << Cell(outcome.message) << ',' << counts.commandsConverted << ','
+        << Cell(MessageAndNotes(outcome)) << ',' << counts.commandsConverted << ','
         << counts.commandsNotConverted << ',' << counts.commandsCopied << ',' << counts.warnings
         << ',' << counts.missedLines << ',' << outcome.sourceSize << ',' << outcome.targetSize
         << ',' << Cell(Timestamp(outcome.modified)) << ',' << Cell(outcome.encoding) << ','

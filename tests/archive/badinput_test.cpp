@@ -111,6 +111,9 @@ TEST_F(BadInput, NamesThatDifferInCaseOnlyAreTold) {
     EXPECT_EQ(Entry("a/x.syn").at("notes").at(0), "Its name differs from A/x.syn in case only.");
     EXPECT_EQ(Entry("a/y.syn").at("notes").size(), 0U);
     EXPECT_EQ(Entry("Report.syn").at("notes").size(), 0U);
+    EXPECT_THAT(ReadFile(m_report / "report.csv"),
+                HasSubstr("\"report.syn\",\"converted\","
+                          "\"Its name differs from Report.syn in case only.\""));
     EXPECT_TRUE(HasTarget("Report.syn"));
     EXPECT_TRUE(HasTarget("report.syn"));
 }
