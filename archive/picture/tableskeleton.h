@@ -102,9 +102,6 @@ struct CommandSkeleton {
     bool operator==(const CommandSkeleton&) const = default;
 };
 
-/// What two skeletons differ in, for a reader: "table 2: columns". Empty when they are equal.
-std::vector<std::string> DifferencesOf(const CommandSkeleton& one, const CommandSkeleton& other);
-
 /// The text of a literal: less its quotes, its joins and the doubling of quotes in it.
 std::string TextOfLiteral(const std::string& literal);
 

@@ -6,6 +6,7 @@
 #include "ctables/recastor/recastor.h"
 #include "tests/support/goldencases.h"
 #include "tests/support/run.h"
+#include "tests/support/skeletondifferences.h"
 
 #include <filesystem>
 #include <sstream>

@@ -7,6 +7,7 @@
 #include "tests/support/commandtree.h"
 #include "tests/support/generators/tablescommand.h"
 #include "tests/support/law.h"
+#include "tests/support/skeletondifferences.h"
 #include "tests/support/translatedtext.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "archive/picture/skeletonofctables.h"
 #include "tests/support/dumpskeleton.h"
+#include "tests/support/skeletondifferences.h"
 
 #include <stdexcept>
 
