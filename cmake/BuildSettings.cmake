@@ -37,7 +37,7 @@ endif()
 # well, so that tests link quickly and users of the installed libraries need no such compiler.
 set(recastor_link_time_optimisation -O3)
 set(recastor_object_optimisation -O3)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT RECASTOR_NOTES_WORK)
     list(APPEND recastor_link_time_optimisation -flto=auto --param=large-unit-insns=100000)
     set(recastor_object_optimisation ${recastor_link_time_optimisation} -ffat-lto-objects)
 endif()
@@ -57,6 +57,7 @@ endfunction()
 function(recastor_install_library target)
     file(RELATIVE_PATH room ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
     recastor_optimise_when_linked(${target})
+    recastor_train(${target})
     install(TARGETS ${target} EXPORT recastorTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
     install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/recastor/${room}
