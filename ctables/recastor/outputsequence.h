@@ -79,7 +79,7 @@ private:
         return piece == 0 ? 0 : m_pieces[piece - 1].end;
     }
 
-    std::string m_text; ///< of all pieces, one behind the other
+    SmallString m_text; ///< of all pieces, one behind the other
     SmallVector<Piece> m_pieces;
     std::int64_t m_lastNewline; ///< index of the last line break; -1 when there is none
 };

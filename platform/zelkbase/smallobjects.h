@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <new>
+#include <string>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -121,6 +122,7 @@ private:
 /// Containers that stay small as a rule and are made by the thousand.
 template <typename T>
 using SmallVector = std::vector<T, SmallObjectAllocator<T>>;
+using SmallString = std::basic_string<char, std::char_traits<char>, SmallObjectAllocator<char>>;
 template <typename Key, typename Value>
 using SmallHashMap = std::unordered_map<Key, Value, std::hash<Key>, std::equal_to<>,
                                         SmallObjectAllocator<std::pair<const Key, Value>>>;
