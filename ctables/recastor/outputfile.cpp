@@ -15,13 +15,20 @@ namespace {
 /// Whole lines are written in blocks of about this many bytes.
 constexpr std::size_t kBlockSize = 65536;
 
-/// Whether each of these lines surely holds more than white space: one that does not ends in some,
-/// or is its line feed alone.
-bool AreFilledLines(std::string_view lines) {
-    return lines.front() != '\n' && !IsAnywhere(lines, [](Neighbours c, Neighbours next) {
-               const Neighbours isBlankOrControl = (c >= 0) & (c <= ' ');
-               return isBlankOrControl & (next == '\n');
-           });
+/// How much of these whole lines, of which there are some, is lines up to the first one that may
+/// hold white space only: such a one ends in some, or is its line feed alone.
+std::size_t SizeOfFilledLines(std::string_view lines) {
+    if (lines.front() == '\n') {
+        return 0;
+    }
+    const std::size_t doubtful = FindFirst(lines, [](Neighbours c, Neighbours next) {
+        const Neighbours isBlankOrControl = (c >= 0) & (c <= ' ');
+        return isBlankOrControl & (next == '\n');
+    });
+    if (doubtful == std::string_view::npos) {
+        return lines.size();
+    }
+    return lines[doubtful] == '\n' ? doubtful + 1 : lines.rfind('\n', doubtful) + 1;
 }
 
 } // namespace
@@ -43,10 +50,15 @@ std::streamsize LineWriteBuffer::xsputn(const char* text, std::streamsize count)
         m_block += rest;
         return count;
     }
-    AppendFilledLines(rest);
-    while (!rest.empty()) {
-        AppendLine(rest);
+    std::string_view lines = rest.substr(0, rest.rfind('\n') + 1);
+    rest.remove_prefix(lines.size());
+    while (!lines.empty()) {
+        AppendFilledLines(lines);
+        if (!lines.empty()) {
+            AppendLine(lines);
+        }
     }
+    m_block += rest;
     return count;
 }
 
@@ -68,12 +80,12 @@ void LineWriteBuffer::AppendLine(std::string_view& text) {
     EndLine();
 }
 
-void LineWriteBuffer::AppendFilledLines(std::string_view& text) {
-    const std::string_view lines = text.substr(0, text.rfind('\n') + 1);
-    if (!m_crLf && AreFilledLines(lines)) {
-        m_block += lines;
+void LineWriteBuffer::AppendFilledLines(std::string_view& lines) {
+    const std::size_t size = m_crLf ? 0 : SizeOfFilledLines(lines);
+    if (size > 0) {
+        m_block += lines.substr(0, size);
         EndBlockOfLines();
-        text.remove_prefix(lines.size());
+        lines.remove_prefix(size);
     }
 }
 

@@ -35,9 +35,9 @@ protected:
 private:
     /// Appends the first line of `text`, or as much of it as there is, and takes it off the text.
     void AppendLine(std::string_view& text);
-    /// The same for all whole lines of `text`, of which there are some, at once, when they are
-    /// written as they stand; else does nothing. No line is at hand.
-    void AppendFilledLines(std::string_view& text);
+    /// Appends those of these whole lines at once that stand before the first one which may have to
+    /// be written otherwise, and takes them off. No line is at hand.
+    void AppendFilledLines(std::string_view& lines);
     void EndLine();
     /// The block ends in a line that is written.
     void EndBlockOfLines();

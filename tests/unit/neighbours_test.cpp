@@ -42,6 +42,26 @@ TEST(NeighboursOfAText, BytesBeyondAsciiAreNegative) {
     EXPECT_FALSE(IsAnywhere("\x7F.", isNegative));
 }
 
+TEST(NeighboursOfAText, FirstOneIsFoundWhereverItStands) {
+    const auto isA = [](Neighbours c, Neighbours /*next*/) { return c == 'a'; };
+    for (const std::size_t size : {2U, 16U, 17U, 18U, 40U, 256U, 257U, 258U, 300U, 700U}) {
+        EXPECT_EQ(FindFirst(std::string(size - 1, '.') + 'a', isA), std::string::npos) << size;
+        for (std::size_t place = 0; place + 1 < size; ++place) {
+            std::string text(size, '.');
+            text.replace(place, 1, "a");
+            EXPECT_EQ(FindFirst(text, isA), place) << size;
+            text[size - 2] = 'a';
+            EXPECT_EQ(FindFirst(text, isA), place) << size;
+        }
+    }
+}
+
+TEST(NeighboursOfAText, BlankInFrontOfAShortTextIsToldAsItsFirstByte) {
+    const auto isBlank = [](Neighbours c, Neighbours /*next*/) { return c == ' '; };
+    EXPECT_EQ(FindFirst("abcd", isBlank), 0U);
+    EXPECT_EQ(FindFirst(std::string(17, 'a'), isBlank), std::string::npos);
+}
+
 } // namespace
 
 } // namespace recastor

@@ -91,6 +91,8 @@ TEST_F(Output, LineOfWhiteSpaceIsFoundWhereverItStands) {
             EXPECT_EQ(Written({filled + '\n' + blank + ends}), filled + '\n' + ends);
             EXPECT_EQ(Written({blank + filled + '\n' + ends}), filled + '\n' + ends);
             EXPECT_EQ(Written({ends + filled + " \n" + blank}), ends + filled + " \n");
+            EXPECT_EQ(Written({ends + blank + blank + ends + filled + '\n' + blank + filled}),
+                      ends + ends + filled + '\n' + filled + '\n');
         }
     }
 }
