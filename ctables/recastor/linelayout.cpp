@@ -1,6 +1,7 @@
 #include "ctables/recastor/linelayout.h"
 
 #include "ctables/recastor/outputsequence.h"
+#include "platform/zelkbase/zelkassert.h"
 
 #include <utility>
 
@@ -13,12 +14,13 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 std::string LineLayout::TakeText() {
     CopyPending();
+    m_text.resize(m_size);
     return std::move(m_text);
 }
 
 void LineLayout::BreakLine() {
     CopyPending();
-    m_text += NL_STRING;
+    Copy(NL_STRING);
     m_column = 0;
     m_nothingPlaced = false;
 }
@@ -37,8 +39,14 @@ void LineLayout::Place(std::string_view piece) {
     }
 }
 
+void LineLayout::Copy(std::string_view text) {
+    ZELK_ASSERT(text.size() <= m_text.size() - m_size);
+    text.copy(m_text.data() + m_size, text.size());
+    m_size += text.size();
+}
+
 void LineLayout::CopyPending() {
-    m_text += m_pending;
+    Copy(m_pending);
     m_pending = {};
 }
 
@@ -51,8 +59,9 @@ void LineLayout::AppendToNewLine(std::string_view piece) {
 
 void LineLayout::Indent() {
     CopyPending();
-    m_text += m_indentation;
-    m_column += m_indentation.size();
+    ZELK_ASSERT(m_indent <= m_text.size() - m_size);
+    m_size += m_indent;
+    m_column += m_indent;
 }
 
 void LineLayout::CarryLastPieceToNewLine() {

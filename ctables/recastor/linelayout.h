@@ -16,17 +16,27 @@ std::string_view WithoutLeadingBlanks(std::string_view text);
 /// those that follow each other in memory are copied together.
 class LineLayout {
 public:
-    /// `indent` is below `width`.
-    LineLayout(unsigned width, unsigned indent) : m_width(width), m_indentation(indent, ' ') {}
+    /// `indent` is below `width`. At most `count` pieces and line breaks will come, of `size` bytes
+    /// together.
+    LineLayout(unsigned width, unsigned indent, std::size_t size, std::size_t count) :
+        m_width(width), m_indent(indent), m_text(size + count * (1 + indent), ' ') {}
 
-    /// Makes room for a text of about this size.
-    void Reserve(std::size_t size) { m_text.reserve(size + size / 16); }
     /// Ends the line.
     void BreakLine();
     /// Appends a piece to the line at hand or to a new one. A piece that is a lone comma takes the
     /// piece before it to the new line, so that no line begins with one; it takes none that is
     /// itself a comma and one more character.
     void Place(std::string_view piece);
+    /// Whether the line at hand is begun and may take more.
+    bool TakesMore() const { return m_column != 0 && m_column <= m_width; }
+    /// How many bytes still fit into such a line.
+    std::size_t Room() const { return m_width - m_column; }
+    /// Places pieces at once that fit into such a line and follow each other in memory; the last of
+    /// them has `lastPieceSize` bytes.
+    void PlaceWhereTheyFit(std::string_view pieces, std::size_t lastPieceSize) {
+        Append(pieces);
+        m_lastPieceSize = lastPieceSize;
+    }
     /// What was laid out; the layout is used up.
     std::string TakeText();
 
@@ -41,14 +51,16 @@ private:
         m_lastPieceSize = piece.size();
         m_column += piece.size();
     }
+    void Copy(std::string_view text);
     void CopyPending();
     void AppendToNewLine(std::string_view piece);
     void Indent();
     void CarryLastPieceToNewLine();
 
     std::size_t m_width;
-    std::string m_indentation;
-    std::string m_text;
+    std::size_t m_indent;
+    std::string m_text;         ///< as long as it may become; blanks behind what is laid out
+    std::size_t m_size = 0;     ///< of what is laid out
     std::string_view m_pending; ///< the pieces that are yet to be copied behind the text
     std::size_t m_column = 0;
     std::size_t m_lastPieceSize = 0; ///< of the last piece, with which the pending ones end

@@ -93,19 +93,33 @@ std::string OutputSequence::Print(unsigned width, unsigned indent) const {
     if (indent > width - 1) {
         ZELK_ASSERT_AS(false, "0 && \"WARNING: Indentation has been forced to size 1.\"");
     }
-    LineLayout layout(width, indent);
-    layout.Reserve(m_text.size());
+    LineLayout layout(width, indent, m_text.size(), m_pieces.size());
     const std::string_view text(m_text);
-    std::size_t start = 0;
-    for (const Piece& piece : m_pieces) {
-        if (piece.isNewline) {
+    for (std::size_t piece = 0; piece < m_pieces.size();) {
+        const std::size_t start = StartOf(piece);
+        const std::size_t next =
+            layout.TakesMore() ? BehindThoseThatFit(piece, start + layout.Room()) : piece;
+        if (next > piece) {
+            layout.PlaceWhereTheyFit(text.substr(start, StartOf(next) - start),
+                                     StartOf(next) - StartOf(next - 1));
+            piece = next;
+            continue;
+        }
+        if (m_pieces[piece].isNewline) {
             layout.BreakLine();
         } else {
-            layout.Place(text.substr(start, piece.end - start));
+            layout.Place(text.substr(start, m_pieces[piece].end - start));
         }
-        start = piece.end;
+        ++piece;
     }
     return layout.TakeText();
+}
+
+std::size_t OutputSequence::BehindThoseThatFit(std::size_t piece, std::size_t end) const {
+    while (piece < m_pieces.size() && m_pieces[piece].end <= end && !m_pieces[piece].isNewline) {
+        ++piece;
+    }
+    return piece;
 }
 
 void OutputSequence::AddWithIndentation(OutputSequence* target, unsigned long* column,

@@ -72,6 +72,9 @@ private:
     };
 
     void FuseShortPieces();
+    /// The index behind the pieces from `piece` on that end at `end` bytes of the text at the
+    /// latest, up to a line break.
+    std::size_t BehindThoseThatFit(std::size_t piece, std::size_t end) const;
     /// Makes a piece of the text behind the last one.
     void AddPiece(bool isNewline);
     std::size_t CurrentLine() const { return static_cast<std::size_t>(m_lastNewline + 1); }

@@ -1,6 +1,7 @@
 #include "ctables/recastor/linelayout.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -11,7 +12,11 @@ namespace {
 
 /// The pieces laid out in lines of 8 bytes, indented by 2; "\n" breaks the line.
 std::string LaidOut(const std::vector<std::string>& pieces) {
-    LineLayout layout(8, 2);
+    std::size_t size = 0;
+    for (const std::string& piece : pieces) {
+        size += piece.size();
+    }
+    LineLayout layout(8, 2, size, pieces.size());
     for (const std::string& piece : pieces) {
         if (piece == "\n") {
             layout.BreakLine();
@@ -51,6 +56,31 @@ TEST(LineLayout, CommaStaysBehindAPieceThatEndsLikeOne) {
 
 TEST(LineLayout, LeadingBlanksGoAtTheStartOfALineOnly) {
     EXPECT_EQ(LaidOut({"ab", "  c", "     d"}), "ab  c\n  d");
+}
+
+TEST(LineLayout, TakesMoreOnceItIsBegunUntilItIsTooLong) {
+    LineLayout layout(8, 2, 40, 10);
+    EXPECT_FALSE(layout.TakesMore());
+    layout.Place("");
+    EXPECT_FALSE(layout.TakesMore());
+    layout.Place("abcd");
+    ASSERT_TRUE(layout.TakesMore()); // behind two blanks
+    EXPECT_EQ(layout.Room(), 2U);
+    layout.Place("ef");
+    ASSERT_TRUE(layout.TakesMore());
+    EXPECT_EQ(layout.Room(), 0U);
+    layout.Place("0123456789");
+    EXPECT_FALSE(layout.TakesMore());
+}
+
+TEST(LineLayout, PiecesThatFitArePlacedAtOnce) {
+    LineLayout layout(8, 2, 40, 10);
+    const std::string text = "ab cd ef,";
+    layout.Place(std::string_view(text).substr(0, 2));
+    layout.PlaceWhereTheyFit(std::string_view(text).substr(2, 6), 3);
+    EXPECT_EQ(layout.Room(), 0U);
+    layout.Place(std::string_view(text).substr(8)); // takes " ef" along
+    EXPECT_EQ(layout.TakeText(), "ab cd\n  ef,");
 }
 
 } // namespace
