@@ -38,6 +38,9 @@ inline std::size_t IndexOfFirstYes(Neighbours answer) {
 /// A text that is long enough to be asked: a short one is copied, with blanks in front.
 class LongEnoughText {
 public:
+    /// What is asked at once, and the byte behind it.
+    static constexpr std::size_t kShortest = sizeof(Neighbours) + 1;
+
     explicit LongEnoughText(std::string_view text) : m_text(text) {
         if (text.size() < m_padded.size()) {
             m_padded.fill(' ');
@@ -56,7 +59,7 @@ public:
     std::size_t Padding() const { return m_padding; }
 
 private:
-    std::array<char, sizeof(Neighbours) + 1> m_padded{};
+    std::array<char, kShortest> m_padded{};
     std::string_view m_text;
     std::size_t m_padding = 0;
 };
@@ -90,7 +93,7 @@ std::size_t FindFirst(std::string_view text, const Question& question) {
         if (text.size() - start <= kAskedAtOnce + 1) {
             return std::string_view::npos;
         }
-        start += kAskedAtOnce;
+        start = std::min(start + kAskedAtOnce, text.size() - LongEnoughText::kShortest);
     }
     const LongEnoughText longEnough(text.substr(start, kAskedAtOnce + 1));
     const std::size_t padding = longEnough.Padding();
