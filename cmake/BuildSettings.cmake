@@ -34,7 +34,7 @@ endif()
 
 # The program is optimised as a whole when it is linked (a fifth faster on TABLES commands), and may
 # grow by what is expanded in place (another eighth). Of what was noted at work all but a thousandth
-# of the time counts as hot, instead of all but a hundredth (2 % on banners). The libraries' objects
+# of the time counts as hot, instead of all but a hundredth (3 % on banners). The libraries' objects
 # hold ordinary code as well, so that tests link quickly and users of the installed libraries need
 # no such compiler.
 set(recastor_link_time_optimisation -O3)

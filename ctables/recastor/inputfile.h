@@ -24,7 +24,7 @@ public:
     const FileDescriptor& File() const { return m_file; }
 
     /// Whether the input begins with the byte-order mark of UTF-16, which editors call "Unicode".
-    /// Such a text cannot be read: every second byte of it is a NUL.
+    /// Such a text cannot be read: half of the bytes of plain letters are NULs.
     bool IsUtf16() const { return m_utf16; }
     /// Whether the whole input is valid in the locale's encoding.
     bool IsValidText() const { return m_validText; }

@@ -27,7 +27,7 @@ inline bool IsAnyYes(Neighbours answer) {
     return std::bit_cast<std::array<std::uint64_t, 2>>(answer) != std::array<std::uint64_t, 2>{};
 }
 
-/// The place of the first of them, from 0 on, for which it is a yes: of one it is.
+/// The place of the first of them, from 0 on, for which it is a yes; it is one for at least one.
 inline std::size_t IndexOfFirstYes(Neighbours answer) {
     const auto bytes = std::bit_cast<std::array<signed char, sizeof answer>>(answer);
     const auto* const first =
@@ -53,7 +53,7 @@ public:
     LongEnoughText& operator=(const LongEnoughText&) = delete;
 
     const char* Data() const { return m_text.data(); }
-    /// Where its last bytes begin of which each has one behind.
+    /// The last place from which it can be asked.
     std::size_t LastPlace() const { return m_text.size() - m_padded.size(); }
     /// The number of blanks in front.
     std::size_t Padding() const { return m_padding; }
@@ -83,8 +83,9 @@ bool IsAnywhere(std::string_view text, const Question& question) {
     return IsAnyYes(answer);
 }
 
-/// The index of the first byte for which it is a yes; npos when it is a no everywhere. A yes for a
-/// blank in front of a short text is told as one for the first byte.
+/// The index of the first byte for which it is a yes; npos when it is a no everywhere. Again the
+/// text is not empty, and its last byte only stands behind. A yes for a blank in front of a short
+/// text is told as one for the first byte.
 template <typename Question>
 std::size_t FindFirst(std::string_view text, const Question& question) {
     constexpr std::size_t kAskedAtOnce = 256;
