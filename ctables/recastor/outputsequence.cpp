@@ -47,7 +47,10 @@ void OutputSequence::PushBack(const OutputSequence& other) {
     m_lastNewline = static_cast<std::int64_t>(m_pieces.size()) + other.m_lastNewline;
     const std::size_t offset = m_text.size();
     m_text += other.m_text;
-    for (const Piece& piece : other.m_pieces) {
+    // By number, up to a count that stands: a sequence may be appended to itself.
+    const std::size_t count = other.m_pieces.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Piece piece = other.m_pieces[i];
         m_pieces.push_back({offset + piece.end, piece.isNewline});
     }
 }
@@ -68,10 +71,18 @@ void OutputSequence::ExtendLastPiece(std::string_view text) {
 }
 
 std::size_t OutputSequence::Length() const {
+    CheckCurrentLine();
     return m_text.size() - StartOf(CurrentLine());
 }
 
+void OutputSequence::CheckCurrentLine() const {
+    for (std::size_t i = CurrentLine(); i < m_pieces.size(); ++i) {
+        ZELK_ASSERT_AS(!m_pieces[i].isNewline, "m_Sequence[i].second == false");
+    }
+}
+
 void OutputSequence::Fuse() {
+    CheckCurrentLine();
     const std::size_t first = CurrentLine();
     if (first < m_pieces.size()) {
         m_pieces.resize(first + 1);

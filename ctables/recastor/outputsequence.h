@@ -72,6 +72,8 @@ private:
     };
 
     void FuseShortPieces();
+    /// Asserts that no line break stands in the current line.
+    void CheckCurrentLine() const;
     /// The index behind the pieces from `piece` on that end at `end` bytes of the text at the
     /// latest, up to a line break.
     std::size_t BehindThoseThatFit(std::size_t piece, std::size_t end) const;

@@ -264,6 +264,15 @@ TEST(OutputSequence, PiecesBehindAnAppendedSequenceBelongToItsLine) {
     EXPECT_EQ(sequence.Length(), 0U);
 }
 
+TEST(OutputSequence, AppendedToItselfItStandsTwice) {
+    // More pieces than there is room for at first: they move while they are read.
+    OutputSequence sequence = MakeSequence({"a", "\n", "b", "c", "d", "e", "f", "g"});
+    const OutputSequence& itself = sequence;
+    sequence.PushBack(itself);
+    EXPECT_EQ(Pieces(sequence), "a\nb\nc\nd\ne\nf\ng\na\nb\nc\nd\ne\nf\ng");
+    EXPECT_EQ(sequence.Length(), 6U);
+}
+
 TEST(OutputSequence, AppendingAppendedSequencesKeepsTheLastStart) {
     OutputSequence inner = MakeSequence({"a"});
     inner.PushBack(MakeSequence({"b"}));
